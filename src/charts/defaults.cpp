@@ -1,0 +1,10 @@
+// Defaults of this folder's plot parameters (resall) and the reset keywords it answers.
+#include "frame/frame.h"
+
+namespace zb {
+
+void resall_charts() {}
+
+void reset_charts(std::string_view key) { (void)key; }
+
+}  // namespace zb

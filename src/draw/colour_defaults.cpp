@@ -1,0 +1,12 @@
+// Defaults of this folder's plot parameters (resall) and the reset keywords it answers.
+#include "frame/frame.h"
+
+namespace zb {
+
+void resall_colour() {
+  zg.ipenclr = 0;
+}
+
+void reset_colour(std::string_view key) { (void)key; }
+
+}  // namespace zb

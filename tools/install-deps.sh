@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Installs what building and testing need on a Debian machine, and only what is missing.
+set -euo pipefail
+pkgs=(
+  g++ cmake ninja-build gfortran python3 zlib1g-dev libgtest-dev
+  libfreetype-dev
+  ghostscript
+  hershey-fonts-data fonts-dejavu-core fonts-liberation fonts-freefont-ttf
+)
+missing=()
+for p in "${pkgs[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+if [ "$(id -u)" -ne 0 ]; then
+  echo "missing packages (run as root to install): ${missing[*]}" >&2
+  exit 1
+fi
+export DEBIAN_FRONTEND=noninteractive
+apt-get update -qq
+apt-get install -y -qq --no-install-recommends "${missing[@]}"
