@@ -123,6 +123,14 @@ module zorbel
     end subroutine metafl
     subroutine newpag()
     end subroutine newpag
+    function nxposn(x)
+      integer :: nxposn
+      real, intent(in) :: x
+    end function nxposn
+    function nyposn(y)
+      integer :: nyposn
+      real, intent(in) :: y
+    end function nyposn
     subroutine origin(nx, ny)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -143,6 +151,18 @@ module zorbel
       integer, intent(in) :: mode
       integer, intent(inout) :: ierr
     end subroutine qqopen
+    subroutine qqpos2(xu, yu, xp, yp)
+      real, intent(in) :: xu
+      real, intent(in) :: yu
+      real, intent(inout) :: xp
+      real, intent(inout) :: yp
+    end subroutine qqpos2
+    subroutine qqrel2(xu, yu, xp, yp)
+      real, intent(in) :: xu
+      real, intent(in) :: yu
+      real, intent(inout) :: xp
+      real, intent(inout) :: yp
+    end subroutine qqrel2
     subroutine qqsbuf(cbuf, n)
       character(len=*), intent(in) :: cbuf
       integer, intent(in) :: n
@@ -189,6 +209,10 @@ module zorbel
     subroutine warnin(icode)
       integer, intent(in) :: icode
     end subroutine warnin
+    function xinvrs(n)
+      real :: xinvrs
+      integer, intent(in) :: n
+    end function xinvrs
     subroutine xjdraw(x, y, icode)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -199,6 +223,18 @@ module zorbel
       real, dimension(*), intent(in) :: yray
       integer, intent(in) :: n
     end subroutine xjpoly
+    function xposn(x)
+      real :: xposn
+      real, intent(in) :: x
+    end function xposn
+    function yinvrs(n)
+      real :: yinvrs
+      integer, intent(in) :: n
+    end function yinvrs
+    function yposn(y)
+      real :: yposn
+      real, intent(in) :: y
+    end function yposn
     subroutine zorfin()
     end subroutine zorfin
     subroutine zorini()
