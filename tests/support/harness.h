@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "draw/draw.h"
 #include "frame/frame.h"
 
 namespace zbt {
