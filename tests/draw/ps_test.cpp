@@ -131,12 +131,12 @@ TEST_F(PostScript, BoxColourAndPages) {
     xjdraw(10, 10, 3);
     xjdraw(20, 20, 2);
   });
-  const auto b = body(lines, kHeadLines + 1);
-  ASSERT_GE(b.size(), 4u);
-  EXPECT_EQ(b[0], "128   0 255 f   371   186   743   557   0 255   0 e copypage ");
-  EXPECT_EQ(b[1], "%%Page: 1        2 ");
-  EXPECT_EQ(b[2], "    0     0  3898  5514   0   0   0 e 128   0 255 f    19  5496 u    37  5477 d ");
-  EXPECT_EQ(b[3], "p showpage ");
+  // Tokens are packed by blanks: the column layout of the numbers does not survive.
+  EXPECT_EQ(body(lines, kHeadLines + 1), (std::vector<std::string>{
+                                             "128 0 255 f 371 186 743 557 0 255 0 e copypage ",
+                                             "%%Page: 1        2 ",
+                                             "0 0 3898 5514 0 0 0 e 128 0 255 f 19 19 u 37 37 d p showpage ",
+                                         }));
 }
 
 TEST_F(PostScript, BoxOutsideThePageDrawsNothing) {
