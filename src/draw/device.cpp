@@ -7,7 +7,9 @@
 
 #include "draw/colour.h"
 #include "draw/line.h"
+#include "formats/drivers.h"
 #include "frame/frame.h"
+#include "raster/drivers.h"
 
 namespace zb {
 
@@ -48,9 +50,6 @@ bool is_ps(int d) { return d >= 501 && d <= 600 && d != 511; }
 bool is_raster(int d) { return d >= 601 && d <= 700; }
 
 }  // namespace
-
-// True where a display answers; the X11 device supplies the real check.
-[[gnu::weak]] bool qqwchk() { return false; }
 
 int qqgdnr(std::string_view cfmt) {
   const std::string k = key4(cfmt);
@@ -163,7 +162,7 @@ void set_devscl() {
 
 void zori01() {
   set_devscl();
-  // The screen driver opens its window here; without one the pen stream goes nowhere.
+  zori_window();
 }
 
 void zori02() {
@@ -211,6 +210,16 @@ void zori03() {
     inipsc(15);
   } else if (is_terminal(d)) {
     dtdraw(0, 0, 0);
+  } else if (d == 211) {
+    inicgm(1);
+  } else if (d == 221) {
+    qqwmf1();
+  } else if (d == 511) {
+    zori_pdf();
+  } else if (d == 801) {
+    zori_svg();
+  } else if (is_raster(d)) {
+    zori_raster();
   }
 }
 
@@ -220,12 +229,18 @@ void xjdraw(float x, float y, int icode) {
   const float s = zg.devscl;
   const float nx = float(zg.nxpag), ny = float(zg.nypag);
   if (icode == 999) {
+    // Closes a buffered stroke.
     if (is_ps(d)) drwpsc(0.0f, 0.0f, 999);
+    else if (d == 211) drwcgm(0.0f, 0.0f, 999);
+    else if (d == 801) qqsvg2(0.0f, 0.0f, 9);
+    else if (d == 511) qqpdf2(0.0f, 0.0f, 999);
     return;
   }
-  if (is_ps(d)) {
-    if (psc_turned()) drwpsc(y * s, x * s, icode);
-    else drwpsc(x * s, (ny - y) * s, icode);
+  if (d >= 501 && d <= 600) {
+    float u = x * s, v = (ny - y) * s;
+    if (psc_turned()) { u = y * s; v = x * s; }
+    if (d == 511) qqpdf2(u, v, icode);
+    else drwpsc(u, v, icode);
     return;
   }
   if (is_terminal(d)) {
@@ -241,12 +256,31 @@ void xjdraw(float x, float y, int icode) {
     dtdraw(ix + 1, iy + 1, icode);
     return;
   }
+  if (d == 211) {
+    if (zg.ipgmod == 1) drwcgm(y * s, x * s, icode);
+    else drwcgm(x * s, (ny - y) * s, icode);
+    return;
+  }
+  if (d == 801) {
+    if (zg.ipgmod == 1) qqsvg2(y * s, (nx - x) * s, icode);
+    else qqsvg2(x * s, y * s, icode);
+    return;
+  }
   simple_draw(x, y, icode);
 }
 
 void xjpoly(const float* xray, const float* yray, int n) {
   if (n < 3 || xray == nullptr || yray == nullptr) return;
-  // Screen and WMF fill natively; their drivers take the polygon.
+  const int d = zg.idev;
+  if (d != 221) return;   // the screen driver takes polygons when it is present
+  const float s = zg.devscl;
+  qqwmf6(n, 0, 1);
+  for (int i = 0; i < n; ++i) {
+    const float x = xray[i], y = yray[i];
+    if (zg.ipgmod == 1) qqwmf6(rnd(y * s), rnd((float(zg.nxpag) - x) * s), 2);
+    else qqwmf6(rnd(x * s), rnd(y * s), 2);
+  }
+  qqwmf6(0, 0, 9);
 }
 
 }  // namespace zb

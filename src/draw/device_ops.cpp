@@ -6,7 +6,9 @@
 #include "draw/colour.h"
 #include "draw/device.h"
 #include "draw/line.h"
+#include "formats/drivers.h"
 #include "frame/frame.h"
+#include "raster/drivers.h"
 
 namespace zb {
 
@@ -88,10 +90,15 @@ void simple_draw(float x, float y, int icode) {
   } else if (d >= 601 && d <= 700) {
     int ix, iy;
     map_pixels(x, y, ix, iy);
+    if (icode == 2) qqvlin(zg.ixlast, zg.iylast, ix, iy);
     zg.ixlast = ix;
     zg.iylast = iy;
+  } else if (d < 101 || d == 221) {
+    int ix, iy;
+    map_pixels(x, y, ix, iy);
+    if (d == 221) qqwmf4(ix, iy, icode);
+    else qqwdrw(ix, iy, icode);
   }
-  // Screen, CGM, WMF, PDF and SVG take the pen stream through their own drivers.
 }
 
 void dbox(float x1, float y1, float x2, float y2, int iclr) {
@@ -161,8 +168,40 @@ void dbox(float x1, float y1, float x2, float y2, int iclr) {
     zg.ctek[0] = 29;
     return;
   }
-  if (d < 101 || (d >= 601 && d <= 700) || d == 221 || d == 511 || d == 801) {
-    // Drivers with a native fill take the box when they are present.
+  if (d < 101 || (d >= 601 && d <= 700) || d == 221) {
+    int ix1, iy1, ix2, iy2;
+    if (zg.ipgmod == 1) {
+      map_pixels(x2, y1, ix1, iy1);
+      map_pixels(x1, y2, ix2, iy2);
+    } else {
+      map_pixels(x1, y1, ix1, iy1);
+      map_pixels(x2, y2, ix2, iy2);
+    }
+    if (d < 101) {
+      qqwfll(ix1, iy1, ix2 - ix1 + 1, iy2 - iy1 + 1, iclr);
+    } else if (d == 221) {
+      int r, g, b;
+      qqgrgb(iclr, r, g, b);
+      qqstrk();
+      qqwmf5(ix1, iy1, ix2 - ix1 + 1, iy2 - iy1 + 1, r, g, b);
+    } else {
+      qqvfll(ix1, iy1, ix2, iy2, iclr);
+    }
+    return;
+  }
+  if (d == 511 || d == 801) {
+    int r, g, b;
+    qqgrgb(iclr, r, g, b);
+    qqstrk();
+    const float s = zg.devscl;
+    if (d == 801) {
+      if (zg.ipgmod == 1) qqsvg4(y1 * s, (float(zg.nxpag) - x2) * s, (y2 - y1) * s, (x2 - x1) * s, r, g, b);
+      else qqsvg4(x1 * s, y1 * s, (x2 - x1) * s, (y2 - y1) * s, r, g, b);
+    } else {
+      qqpdf3(r, g, b, 1);
+      if (psc_turned()) qqpdf4(y1 * s, x1 * s, (y2 - y1) * s, (x2 - x1) * s);
+      else qqpdf4(x1 * s, (float(zg.nypag) - y2) * s, (x2 - x1) * s, (y2 - y1) * s);
+    }
     return;
   }
   // Metafile, CGM, HPGL: hatch with thin lines.
@@ -200,6 +239,7 @@ void sendbf() {
   if (jqqlev(1, 3, "SENDBF")) return;
   qqstrk();
   const int d = zg.idev;
+  if (d < 101) qqwsbf();
   if (d >= 101 && d <= 150 && zg.nobuf > 0) {
     lun_write(zg.lunplt, " " + std::string(zg.cobuf.c.data(), std::size_t(zg.nobuf)));
     zg.nobuf = 0;
@@ -212,10 +252,11 @@ int device_end() {
   const int d = zg.idev;
   int shown = 1;
   if (d < 101) {
+    qqwfin(zg.iwinmd == 4 ? 10 * zg.iwinop + 4 : 10 * zg.iwinky + zg.iwinmd);
     shown = 0;
   } else if (d <= 200) {
-    if (d == 161) dtdr12(1, 1, 3);
-    else dtdraw(1, 1, 3);
+    if (d == 161) dtdr12(0, 0, 3);
+    else dtdraw(0, 0, 3);
     const char esc = 27;
     qqsbuf(&esc, 1);
     if (d == 101 || d == 151) qqsbuf("2");
@@ -226,8 +267,11 @@ int device_end() {
       xjdraw(0.0f, float(zg.nypag), 3);
       qqsbuf(" 9.0000000");
     } else if (d == 211) {
+      drwcgm(0.0f, 0.0f, 999);
       const char end[4] = {0, char(160), 0, 64};
       qqsbuf(end, 4);
+    } else if (d == 221) {
+      qqwmf2();
     }
   } else if (d <= 400) {
     qqsbuf("RES;EXIT;");
@@ -237,12 +281,24 @@ int device_end() {
     if (is_ps(d)) {
       xjdraw(0.0f, 0.0f, 999);
       qpsbuf("showpage ");
+    } else if (d == 511) {
+      shown = pdf_end();
     }
   } else if (d <= 700) {
-    if (d == 603) shown = 0;
+    if (d == 603) {
+      shown = 0;
+    } else {
+      std::string name = zg.cplotfl.str();
+      gfilnn(name);
+      zg.cplotfl = name;
+      qqrfil(name.c_str(), d - 600);
+    }
+    qqvfin();
   } else if (d == 701) {
     java_line("  }");
     java_line("}");
+  } else if (d == 801) {
+    qqsvg2(0.0f, 0.0f, 999);
   }
   if (d < 601 && d != 221 && d != 511) {
     if (zg.nobuf > 0) {
@@ -254,6 +310,7 @@ int device_end() {
       }
     }
   }
+  if (d == 211 && zg.nobuf > 0) write_record();
   if (d != 101 && d != 103) lun_close(15);
   return shown;
 }
@@ -273,8 +330,15 @@ void device_after_close() {
 
 void device_newpage() {
   const int d = zg.idev;
-  if (d >= 101 && d <= 150) {
+  if (d < 101) {
+    if (zg.iwinmd != 2 && zg.iwinmd != 3) {   // not NONE, not NOHO
+      qqwnpg();
+      device_erase();
+    }
+  } else if (d >= 101 && d <= 150) {
     device_erase();
+  } else if (d == 211) {
+    inicgm(2);
   } else if (d >= 301 && d <= 400) {
     qqsbuf("PAGE;");
   } else if (is_ps(d) && d != 503) {
@@ -295,9 +359,15 @@ void device_newpage() {
 
 void device_erase() {
   const int d = zg.idev;
-  if (d >= 101 && d <= 200) {
+  if (d < 101) {
+    qqwclr(0);
+    qqwers();
+    qqwclr(zg.ipenclr);
+  } else if (d >= 101 && d <= 200) {
     const char seq[3] = {28, 27, 12};
     qqsbuf(seq, 3);
+  } else if (d >= 601 && d <= 700) {
+    qqvers();
   } else if (d == 701) {
     java_line("  g.clearRect (0,0," + itoa(zg.nwimg) + "," + itoa(zg.nhimg) + ");");
   }
