@@ -6,6 +6,7 @@ pkgs=(
   libfreetype-dev
   ghostscript
   hershey-fonts-data fonts-dejavu-core fonts-liberation fonts-freefont-ttf
+  fonts-liberation2
 )
 missing=()
 for p in "${pkgs[@]}"; do

@@ -71,6 +71,38 @@ def join_strokes(strokes):
     return [w for w in work if w]
 
 
+def bridge_strokes(strokes, gap):
+    """Joins polylines whose ends lie within gap of each other by a short connecting segment.
+
+    Thick strokes of the multi-stroke fonts are bundles of parallel lines one unit apart; a bridge between
+    their ends stays inside the ink and saves a contour.
+    """
+    work = join_strokes(strokes)
+    if gap <= 0:
+        return work
+    g2 = gap * gap
+    while True:
+        best = None
+        for i, a in enumerate(work):
+            for j, b in enumerate(work):
+                if i >= j:
+                    continue
+                for ra in (False, True):
+                    for rb in (False, True):
+                        pa = a[0] if ra else a[-1]
+                        pb = b[-1] if rb else b[0]
+                        d = (pa[0] - pb[0]) ** 2 + (pa[1] - pb[1]) ** 2
+                        if d <= g2 and (best is None or d < best[0]):
+                            best = (d, i, j, ra, rb)
+        if best is None:
+            return work
+        _, i, j, ra, rb = best
+        a = work[i][::-1] if ra else work[i]
+        b = work[j][::-1] if rb else work[j]
+        work[i] = a + b if a[-1] != b[0] else a + b[1:]
+        del work[j]
+
+
 def _deltas(line):
     return tuple((line[k + 1][0] - line[k][0], line[k + 1][1] - line[k][1]) for k in range(len(line) - 1))
 
@@ -134,7 +166,11 @@ class Pool:
         """Places one polyline; returns (npts, start0, packed)."""
         line = drop_repeats(line)
         if len(line) == 1:
-            line = line * 2
+            # A single point is a pen move that draws nothing; it can only widen the glyph.
+            if line[0] in self.points:
+                return 1, self.points.index(line[0]), 0
+            self.points.append(line[0])
+            return 1, len(self.points) - 1, 0
         found = self._find(line)
         if found is None and reversible:
             found = self._find(line[::-1])
