@@ -3,9 +3,145 @@
 module zorbel
   implicit none
   interface
+    subroutine arcell(nx, ny, na, nb, alpha, beta, theta)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: na
+      integer, intent(in) :: nb
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+      real, intent(in) :: theta
+    end subroutine arcell
+    subroutine areaf(nxray, nyray, n)
+      integer, dimension(*), intent(in) :: nxray
+      integer, dimension(*), intent(in) :: nyray
+      integer, intent(in) :: n
+    end subroutine areaf
+    subroutine arealx(xray, yray, n)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+    end subroutine arealx
+    subroutine ax2grf()
+    end subroutine ax2grf
+    subroutine axclrs(nclr, copt, cax)
+      integer, intent(in) :: nclr
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine axclrs
+    subroutine axends(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine axends
+    subroutine axsbgd(nclr)
+      integer, intent(in) :: nclr
+    end subroutine axsbgd
+    subroutine axslen(nx, ny)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine axslen
+    subroutine axsorg(nx, ny)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine axsorg
+    subroutine axspos(nx, ny)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine axspos
+    subroutine axsscl(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine axsscl
+    subroutine axstyp(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine axstyp
+    subroutine bezier(xray, yray, n, xpray, ypray, np)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+      real, dimension(*), intent(inout) :: xpray
+      real, dimension(*), intent(inout) :: ypray
+      integer, intent(in) :: np
+    end subroutine bezier
+    subroutine center()
+    end subroutine center
     subroutine chkini(c)
       character(len=*), intent(in) :: c
     end subroutine chkini
+    subroutine chndot()
+    end subroutine chndot
+    subroutine chndsh()
+    end subroutine chndsh
+    subroutine circ3p(x1, y1, x2, y2, x3, y3, xm, ym, r)
+      real, intent(in) :: x1
+      real, intent(in) :: y1
+      real, intent(in) :: x2
+      real, intent(in) :: y2
+      real, intent(in) :: x3
+      real, intent(in) :: y3
+      real, intent(inout) :: xm
+      real, intent(inout) :: ym
+      real, intent(inout) :: r
+    end subroutine circ3p
+    subroutine circle(nx, ny, nr)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nr
+    end subroutine circle
+    subroutine circsp(nspc)
+      integer, intent(in) :: nspc
+    end subroutine circsp
+    subroutine clip2d(x1, y1, x2, y2)
+      real, intent(in) :: x1
+      real, intent(in) :: y1
+      real, intent(in) :: x2
+      real, intent(in) :: y2
+    end subroutine clip2d
+    subroutine clpbor(c)
+      character(len=*), intent(in) :: c
+    end subroutine clpbor
+    subroutine clpmod(c)
+      character(len=*), intent(in) :: c
+    end subroutine clpmod
+    subroutine clpwin(nx, ny, nw, nh)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine clpwin
+    subroutine clrcyc(i, iclr)
+      integer, intent(in) :: i
+      integer, intent(in) :: iclr
+    end subroutine clrcyc
+    subroutine clrmod(c)
+      character(len=*), intent(in) :: c
+    end subroutine clrmod
+    subroutine color(c)
+      character(len=*), intent(in) :: c
+    end subroutine color
+    subroutine colran(nlow, nhigh)
+      integer, intent(in) :: nlow
+      integer, intent(in) :: nhigh
+    end subroutine colran
+    subroutine connpt(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine connpt
+    subroutine connqq(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine connqq
+    subroutine dareaf(xray, yray, n)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+    end subroutine dareaf
+    subroutine dash()
+    end subroutine dash
+    subroutine dashl()
+    end subroutine dashl
+    subroutine dashm()
+    end subroutine dashm
     subroutine dbox(x1, y1, x2, y2, iclr)
       real, intent(in) :: x1
       real, intent(in) :: y1
@@ -15,11 +151,28 @@ module zorbel
     end subroutine dbox
     subroutine defvar()
     end subroutine defvar
+    subroutine digits(ndig, cax)
+      integer, intent(in) :: ndig
+      character(len=*), intent(in) :: cax
+    end subroutine digits
+    subroutine dlinef(xpair, ypair)
+      real, dimension(*), intent(in) :: xpair
+      real, dimension(*), intent(in) :: ypair
+    end subroutine dlinef
+    subroutine dot()
+    end subroutine dot
+    subroutine dotl()
+    end subroutine dotl
     subroutine drwpsc(x, y, icode)
       real, intent(in) :: x
       real, intent(in) :: y
       integer, intent(in) :: icode
     end subroutine drwpsc
+    subroutine dsymbl(nsym, nx, ny)
+      integer, intent(in) :: nsym
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine dsymbl
     subroutine dtdr12(ix, iy, icode)
       integer, intent(in) :: ix
       integer, intent(in) :: iy
@@ -30,6 +183,25 @@ module zorbel
       integer, intent(in) :: iy
       integer, intent(in) :: icode
     end subroutine dtdraw
+    subroutine ellips(nx, ny, na, nb)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: na
+      integer, intent(in) :: nb
+    end subroutine ellips
+    subroutine elpsln(nx, ny, nr1, nr2, alpha, beta, theta, iline, iclose)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nr1
+      integer, intent(in) :: nr2
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+      real, intent(in) :: theta
+      integer, intent(in) :: iline
+      integer, intent(in) :: iclose
+    end subroutine elpsln
+    subroutine endgrf()
+    end subroutine endgrf
     subroutine erase()
     end subroutine erase
     subroutine errdev(c)
@@ -45,15 +217,61 @@ module zorbel
       character(len=*), intent(in) :: cstr
       character(len=*), intent(in) :: cmod
     end subroutine errmod
+    subroutine ffllin(xpair, ypair)
+      real, dimension(*), intent(in) :: xpair
+      real, dimension(*), intent(in) :: ypair
+    end subroutine ffllin
     subroutine filmod(c)
       character(len=*), intent(in) :: c
     end subroutine filmod
+    subroutine gbyt03(iv, i1, i2, i3)
+      integer, intent(in) :: iv
+      integer, intent(inout) :: i1
+      integer, intent(inout) :: i2
+      integer, intent(inout) :: i3
+    end subroutine gbyt03
+    subroutine getclp(nx, ny, nw, nh)
+      integer, intent(inout) :: nx
+      integer, intent(inout) :: ny
+      integer, intent(inout) :: nw
+      integer, intent(inout) :: nh
+    end subroutine getclp
+    subroutine getclr(iclr)
+      integer, intent(inout) :: iclr
+    end subroutine getclr
+    subroutine getdig(n1, n2, n3)
+      integer, intent(inout) :: n1
+      integer, intent(inout) :: n2
+      integer, intent(inout) :: n3
+    end subroutine getdig
     subroutine getfil(c)
       character(len=*), intent(inout) :: c
     end subroutine getfil
+    subroutine gethnm(nh)
+      integer, intent(inout) :: nh
+    end subroutine gethnm
+    subroutine getind(i, xr, xg, xb)
+      integer, intent(in) :: i
+      real, intent(inout) :: xr
+      real, intent(inout) :: xg
+      real, intent(inout) :: xb
+    end subroutine getind
+    subroutine getlab(cx, cy, cz)
+      character(len=*), intent(inout) :: cx
+      character(len=*), intent(inout) :: cy
+      character(len=*), intent(inout) :: cz
+    end subroutine getlab
+    subroutine getlen(nx, ny, nz)
+      integer, intent(inout) :: nx
+      integer, intent(inout) :: ny
+      integer, intent(inout) :: nz
+    end subroutine getlen
     subroutine getlev(nlev)
       integer, intent(inout) :: nlev
     end subroutine getlev
+    subroutine getlin(nw)
+      integer, intent(inout) :: nw
+    end subroutine getlin
     subroutine getmfl(c)
       character(len=*), intent(inout) :: c
     end subroutine getmfl
@@ -65,12 +283,78 @@ module zorbel
       integer, intent(inout) :: nx
       integer, intent(inout) :: ny
     end subroutine getpag
+    subroutine getpat(ipat)
+      integer, intent(inout) :: ipat
+    end subroutine getpat
+    subroutine getpos(nx, ny)
+      integer, intent(inout) :: nx
+      integer, intent(inout) :: ny
+    end subroutine getpos
+    subroutine getran(nlow, nhigh)
+      integer, intent(inout) :: nlow
+      integer, intent(inout) :: nhigh
+    end subroutine getran
+    subroutine getrgb(xr, xg, xb)
+      real, intent(inout) :: xr
+      real, intent(inout) :: xg
+      real, intent(inout) :: xb
+    end subroutine getrgb
+    subroutine getscl(nx, ny, nz)
+      integer, intent(inout) :: nx
+      integer, intent(inout) :: ny
+      integer, intent(inout) :: nz
+    end subroutine getscl
+    subroutine getsp1(n1, n2, n3)
+      integer, intent(inout) :: n1
+      integer, intent(inout) :: n2
+      integer, intent(inout) :: n3
+    end subroutine getsp1
+    subroutine getsp2(n1, n2, n3)
+      integer, intent(inout) :: n1
+      integer, intent(inout) :: n2
+      integer, intent(inout) :: n3
+    end subroutine getsp2
+    subroutine gettcl(nmaj, nmin)
+      integer, intent(inout) :: nmaj
+      integer, intent(inout) :: nmin
+    end subroutine gettcl
+    subroutine gettic(n1, n2, n3)
+      integer, intent(inout) :: n1
+      integer, intent(inout) :: n2
+      integer, intent(inout) :: n3
+    end subroutine gettic
+    subroutine gettyp(ntyp)
+      integer, intent(inout) :: ntyp
+    end subroutine gettyp
     subroutine getuni(nu)
       integer, intent(inout) :: nu
     end subroutine getuni
+    subroutine getvlt(c)
+      character(len=*), intent(inout) :: c
+    end subroutine getvlt
     subroutine gfilnn(c)
       character(len=*), intent(inout) :: c
     end subroutine gfilnn
+    subroutine gkwfa(n, xray, yray, xstep, span)
+      integer, intent(in) :: n
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      real, intent(in) :: xstep
+      external :: span
+    end subroutine gkwfa
+    subroutine grace(ngrace)
+      integer, intent(in) :: ngrace
+    end subroutine grace
+    subroutine graf(xa, xe, xor0, xstp, ya, ye, yor, ystp)
+      real, intent(inout) :: xa
+      real, intent(inout) :: xe
+      real, intent(inout) :: xor0
+      real, intent(inout) :: xstp
+      real, intent(inout) :: ya
+      real, intent(inout) :: ye
+      real, intent(inout) :: yor
+      real, intent(inout) :: ystp
+    end subroutine graf
     subroutine gtk12b(ix, iy, c)
       integer, intent(in) :: ix
       integer, intent(in) :: iy
@@ -80,9 +364,49 @@ module zorbel
       character(len=*), intent(inout) :: cuser
       integer, intent(inout) :: nl
     end subroutine gusrid
+    subroutine hname(nh)
+      integer, intent(in) :: nh
+    end subroutine hname
+    subroutine hsvrgb(xh, xs, xv, xr, xg, xb)
+      real, intent(in) :: xh
+      real, intent(in) :: xs
+      real, intent(in) :: xv
+      real, intent(inout) :: xr
+      real, intent(inout) :: xg
+      real, intent(inout) :: xb
+    end subroutine hsvrgb
+    subroutine hworig(nx, ny)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine hworig
+    subroutine hwpage(nw, nh)
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine hwpage
+    function indrgb(xr, xg, xb)
+      integer :: indrgb
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+    end function indrgb
     subroutine inipsc(lun)
       integer, intent(in) :: lun
     end subroutine inipsc
+    subroutine inityp()
+    end subroutine inityp
+    subroutine intax()
+    end subroutine intax
+    function intrgb(xr, xg, xb)
+      integer :: intrgb
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+    end function intrgb
+    function jqqclp(x, y)
+      integer :: jqqclp
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end function jqqclp
     function jqqdat(iday, imonth, iyear)
       integer :: jqqdat
       integer, intent(in) :: iday
@@ -115,14 +439,143 @@ module zorbel
       integer :: jqqyvl
       integer, intent(in) :: iy
     end function jqqyvl
+    subroutine kdarc(nx, ny, nr2, nr1, beta, alpha, ipat)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nr2
+      integer, intent(in) :: nr1
+      real, intent(in) :: beta
+      real, intent(in) :: alpha
+      integer, intent(in) :: ipat
+    end subroutine kdarc
+    subroutine labdig(ndig, cax)
+      integer, intent(in) :: ndig
+      character(len=*), intent(in) :: cax
+    end subroutine labdig
+    subroutine labdis(ndis, cax)
+      integer, intent(in) :: ndis
+      character(len=*), intent(in) :: cax
+    end subroutine labdis
+    subroutine labels(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine labels
+    subroutine labjus(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine labjus
+    subroutine labpos(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine labpos
+    subroutine labtyp(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine labtyp
+    subroutine lincyc(i, ityp)
+      integer, intent(in) :: i
+      integer, intent(in) :: ityp
+    end subroutine lincyc
+    subroutine line(nx1, ny1, nx2, ny2)
+      integer, intent(in) :: nx1
+      integer, intent(in) :: ny1
+      integer, intent(in) :: nx2
+      integer, intent(in) :: ny2
+    end subroutine line
+    subroutine lineqq(ix1, iy1, ix2, iy2)
+      integer, intent(in) :: ix1
+      integer, intent(in) :: iy1
+      integer, intent(in) :: ix2
+      integer, intent(in) :: iy2
+    end subroutine lineqq
+    subroutine lintyp(ntyp)
+      integer, intent(in) :: ntyp
+    end subroutine lintyp
+    subroutine linwid(nw)
+      integer, intent(in) :: nw
+    end subroutine linwid
+    subroutine lncap(c)
+      character(len=*), intent(in) :: c
+    end subroutine lncap
+    subroutine lnjoin(c)
+      character(len=*), intent(in) :: c
+    end subroutine lnjoin
+    subroutine lnmlt(xf)
+      real, intent(in) :: xf
+    end subroutine lnmlt
+    subroutine logtic(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine logtic
     subroutine lsechk(c)
       character(len=*), intent(in) :: c
     end subroutine lsechk
     subroutine metafl(c)
       character(len=*), intent(in) :: c
     end subroutine metafl
+    subroutine mylab(cstr, itick, cax)
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: itick
+      character(len=*), intent(in) :: cax
+    end subroutine mylab
+    subroutine myline(nray, n)
+      integer, dimension(*), intent(in) :: nray
+      integer, intent(in) :: n
+    end subroutine myline
+    subroutine mypat(iangle, itype, idens, icross)
+      integer, intent(in) :: iangle
+      integer, intent(in) :: itype
+      integer, intent(in) :: idens
+      integer, intent(in) :: icross
+    end subroutine mypat
+    subroutine mysymb(xray, yray, n, isym, iflag)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+      integer, intent(in) :: isym
+      integer, intent(in) :: iflag
+    end subroutine mysymb
+    subroutine myvlt(xr, xg, xb, n)
+      real, dimension(*), intent(in) :: xr
+      real, dimension(*), intent(in) :: xg
+      real, dimension(*), intent(in) :: xb
+      integer, intent(in) :: n
+    end subroutine myvlt
+    subroutine namdis(ndis, cax)
+      integer, intent(in) :: ndis
+      character(len=*), intent(in) :: cax
+    end subroutine namdis
+    subroutine name(cstr, cax)
+      character(len=*), intent(in) :: cstr
+      character(len=*), intent(in) :: cax
+    end subroutine name
+    subroutine namjus(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine namjus
+    function ncollg(z)
+      integer :: ncollg
+      real, intent(in) :: z
+    end function ncollg
+    function ncolor(z)
+      integer :: ncolor
+      real, intent(in) :: z
+    end function ncolor
+    subroutine neglog(x)
+      real, intent(in) :: x
+    end subroutine neglog
     subroutine newpag()
     end subroutine newpag
+    subroutine noarln()
+    end subroutine noarln
+    subroutine nochek()
+    end subroutine nochek
+    subroutine noclip()
+    end subroutine noclip
+    subroutine nograf()
+    end subroutine nograf
+    subroutine noline(cax)
+      character(len=*), intent(in) :: cax
+    end subroutine noline
     function nxposn(x)
       integer :: nxposn
       real, intent(in) :: x
@@ -135,16 +588,79 @@ module zorbel
       integer, intent(in) :: nx
       integer, intent(in) :: ny
     end subroutine origin
+    subroutine page(nx, ny)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine page
+    subroutine pagera()
+    end subroutine pagera
+    subroutine pagfll(ncol)
+      integer, intent(in) :: ncol
+    end subroutine pagfll
+    subroutine pagmod(c)
+      character(len=*), intent(in) :: c
+    end subroutine pagmod
+    subroutine pagorg(c)
+      character(len=*), intent(in) :: c
+    end subroutine pagorg
+    subroutine patcyc(i, ipat)
+      integer, intent(in) :: i
+      integer, intent(in) :: ipat
+    end subroutine patcyc
+    subroutine penwid(xw)
+      real, intent(in) :: xw
+    end subroutine penwid
+    subroutine pie(nx, ny, nr, alpha, beta)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nr
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+    end subroutine pie
+    subroutine point(nx, ny, nb, nh, ncol)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nb
+      integer, intent(in) :: nh
+      integer, intent(in) :: ncol
+    end subroutine point
+    subroutine pointx(x, y, nb, nh, ncol)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      integer, intent(in) :: nb
+      integer, intent(in) :: nh
+      integer, intent(in) :: ncol
+    end subroutine pointx
     subroutine qpsbuf(cbuf, n)
       character(len=*), intent(in) :: cbuf
       integer, intent(in) :: n
     end subroutine qpsbuf
+    subroutine qqdraw(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine qqdraw
     subroutine qqerrfil()
     end subroutine qqerrfil
     subroutine qqgetenv(cname, cval)
       character(len=*), intent(in) :: cname
       character(len=*), intent(inout) :: cval
     end subroutine qqgetenv
+    subroutine qqgidx(idx, ir, ig, ib)
+      integer, intent(inout) :: idx
+      integer, intent(in) :: ir
+      integer, intent(in) :: ig
+      integer, intent(in) :: ib
+    end subroutine qqgidx
+    subroutine qqgrgb(iclr, xr, xg, xb)
+      integer, intent(in) :: iclr
+      real, intent(inout) :: xr
+      real, intent(inout) :: xg
+      real, intent(inout) :: xb
+    end subroutine qqgrgb
+    subroutine qqmove(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine qqmove
     subroutine qqopen(lun, cfil, mode, ierr)
       integer, intent(in) :: lun
       character(len=*), intent(in) :: cfil
@@ -173,21 +689,272 @@ module zorbel
     subroutine qqserr(c)
       character(len=*), intent(in) :: c
     end subroutine qqserr
+    subroutine qqstrk()
+    end subroutine qqstrk
+    subroutine recfll(nx, ny, nw, nh, ncol)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+      integer, intent(in) :: ncol
+    end subroutine recfll
+    subroutine rectan(nx, ny, nw, nh)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine rectan
     subroutine resall()
     end subroutine resall
     subroutine reset(c)
       character(len=*), intent(in) :: c
     end subroutine reset
+    subroutine revscr()
+    end subroutine revscr
+    subroutine rgbhsv(xr, xg, xb, xh, xs, xv)
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+      real, intent(inout) :: xh
+      real, intent(inout) :: xs
+      real, intent(inout) :: xv
+    end subroutine rgbhsv
+    subroutine rgtlab()
+    end subroutine rgtlab
+    subroutine rlarc(xm, ym, xa, xb, alpha, beta, theta)
+      real, intent(in) :: xm
+      real, intent(in) :: ym
+      real, intent(in) :: xa
+      real, intent(in) :: xb
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+      real, intent(in) :: theta
+    end subroutine rlarc
+    subroutine rlarea(xray, yray, n)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+    end subroutine rlarea
+    subroutine rlcirc(xm, ym, r)
+      real, intent(in) :: xm
+      real, intent(in) :: ym
+      real, intent(in) :: r
+    end subroutine rlcirc
+    subroutine rlconn(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine rlconn
+    subroutine rlell(xm, ym, a, b)
+      real, intent(in) :: xm
+      real, intent(in) :: ym
+      real, intent(in) :: a
+      real, intent(in) :: b
+    end subroutine rlell
+    subroutine rline(x1, y1, x2, y2)
+      real, intent(in) :: x1
+      real, intent(in) :: y1
+      real, intent(in) :: x2
+      real, intent(in) :: y2
+    end subroutine rline
+    subroutine rlpie(xm, ym, r, alpha, beta)
+      real, intent(in) :: xm
+      real, intent(in) :: ym
+      real, intent(in) :: r
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+    end subroutine rlpie
+    subroutine rlpoin(x, y, nb, nh, ncol)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      integer, intent(in) :: nb
+      integer, intent(in) :: nh
+      integer, intent(in) :: ncol
+    end subroutine rlpoin
+    subroutine rlrec(x, y, w, h)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      real, intent(in) :: w
+      real, intent(in) :: h
+    end subroutine rlrec
+    subroutine rlrnd(x, y, w, h, iopt)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      real, intent(in) :: w
+      real, intent(in) :: h
+      integer, intent(in) :: iopt
+    end subroutine rlrnd
+    subroutine rlsec(xm, ym, r1, r2, alpha, beta, ncol)
+      real, intent(in) :: xm
+      real, intent(in) :: ym
+      real, intent(in) :: r1
+      real, intent(in) :: r2
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+      integer, intent(in) :: ncol
+    end subroutine rlsec
+    subroutine rlstrt(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine rlstrt
+    subroutine rlsymb(nsym, x, y)
+      integer, intent(in) :: nsym
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine rlsymb
+    subroutine rlvec(x1, y1, x2, y2, ivec)
+      real, intent(in) :: x1
+      real, intent(in) :: y1
+      real, intent(in) :: x2
+      real, intent(in) :: y2
+      integer, intent(in) :: ivec
+    end subroutine rlvec
+    subroutine rlwind(xv, x, y, nw, a)
+      real, intent(in) :: xv
+      real, intent(in) :: x
+      real, intent(in) :: y
+      integer, intent(in) :: nw
+      real, intent(in) :: a
+    end subroutine rlwind
+    subroutine rndrec(nx, ny, nw, nh, iopt)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+      integer, intent(in) :: iopt
+    end subroutine rndrec
+    subroutine rvynam()
+    end subroutine rvynam
+    subroutine scale(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine scale
+    subroutine sclfac(xfac)
+      real, intent(in) :: xfac
+    end subroutine sclfac
+    subroutine sclmod(c)
+      character(len=*), intent(in) :: c
+    end subroutine sclmod
+    subroutine sclpax(mode)
+      integer, intent(in) :: mode
+    end subroutine sclpax
+    subroutine scrmod(c)
+      character(len=*), intent(in) :: c
+    end subroutine scrmod
+    subroutine sector(nx, ny, nr1, nr2, alpha, beta, ncol)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nr1
+      integer, intent(in) :: nr2
+      real, intent(in) :: alpha
+      real, intent(in) :: beta
+      integer, intent(in) :: ncol
+    end subroutine sector
     subroutine sendbf()
     end subroutine sendbf
+    subroutine setclp()
+    end subroutine setclp
+    subroutine setclr(iclr)
+      integer, intent(in) :: iclr
+    end subroutine setclr
     subroutine setfil(c)
       character(len=*), intent(in) :: c
     end subroutine setfil
+    subroutine setgrf(c1, c2, c3, c4)
+      character(len=*), intent(in) :: c1
+      character(len=*), intent(in) :: c2
+      character(len=*), intent(in) :: c3
+      character(len=*), intent(in) :: c4
+    end subroutine setgrf
+    subroutine setind(i, xr, xg, xb)
+      integer, intent(in) :: i
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+    end subroutine setind
+    subroutine setpag(c)
+      character(len=*), intent(in) :: c
+    end subroutine setpag
+    subroutine setrgb(xr, xg, xb)
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+    end subroutine setrgb
+    subroutine setscl(xray, n, cstr)
+      real, dimension(*), intent(in) :: xray
+      integer, intent(in) :: n
+      character(len=*), intent(in) :: cstr
+    end subroutine setscl
+    subroutine setvlt(c)
+      character(len=*), intent(in) :: c
+    end subroutine setvlt
+    subroutine shdpat(ipat)
+      integer, intent(in) :: ipat
+    end subroutine shdpat
+    subroutine shwvlt()
+    end subroutine shwvlt
+    subroutine solid()
+    end subroutine solid
     subroutine sopnfl(kind, lun, ierr)
       integer, intent(in) :: kind
       integer, intent(inout) :: lun
       integer, intent(inout) :: ierr
     end subroutine sopnfl
+    subroutine strtpt(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine strtpt
+    subroutine strtqq(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine strtqq
+    subroutine symbol(nsym, nx, ny)
+      integer, intent(in) :: nsym
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine symbol
+    subroutine symrot(xang)
+      real, intent(in) :: xang
+    end subroutine symrot
+    subroutine thkcrv(n)
+      integer, intent(in) :: n
+    end subroutine thkcrv
+    subroutine thklin(ix1, iy1, ix2, iy2)
+      integer, intent(in) :: ix1
+      integer, intent(in) :: iy1
+      integer, intent(in) :: ix2
+      integer, intent(in) :: iy2
+    end subroutine thklin
+    subroutine thklnx(x1, y1, x2, y2)
+      real, intent(in) :: x1
+      real, intent(in) :: y1
+      real, intent(in) :: x2
+      real, intent(in) :: y2
+    end subroutine thklnx
+    subroutine ticks(ntics, cax)
+      integer, intent(in) :: ntics
+      character(len=*), intent(in) :: cax
+    end subroutine ticks
+    subroutine ticlen(nmaj, nmin)
+      integer, intent(in) :: nmaj
+      integer, intent(in) :: nmin
+    end subroutine ticlen
+    subroutine ticpos(copt, cax)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: cax
+    end subroutine ticpos
+    subroutine timopt()
+    end subroutine timopt
+    subroutine trfro2(xray, yray, n, xsin, xcos)
+      real, dimension(*), intent(inout) :: xray
+      real, dimension(*), intent(inout) :: yray
+      integer, intent(in) :: n
+      real, intent(in) :: xsin
+      real, intent(in) :: xcos
+    end subroutine trfro2
+    subroutine trifll(xray, yray)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+    end subroutine trifll
     function trmlen(c)
       real :: trmlen
       character(len=*), intent(in) :: c
@@ -195,9 +962,23 @@ module zorbel
     subroutine unit(nu)
       integer, intent(in) :: nu
     end subroutine unit
+    subroutine units(c)
+      character(len=*), intent(in) :: c
+    end subroutine units
     subroutine upstr(c)
       character(len=*), intent(inout) :: c
     end subroutine upstr
+    subroutine vector(nx1, ny1, nx2, ny2, ivec)
+      integer, intent(in) :: nx1
+      integer, intent(in) :: ny1
+      integer, intent(in) :: nx2
+      integer, intent(in) :: ny2
+      integer, intent(in) :: ivec
+    end subroutine vector
+    subroutine vltfil(cfil, cmod)
+      character(len=*), intent(in) :: cfil
+      character(len=*), intent(in) :: cmod
+    end subroutine vltfil
     subroutine warnc1(icode, c)
       integer, intent(in) :: icode
       character(len=*), intent(in) :: c
@@ -209,6 +990,39 @@ module zorbel
     subroutine warnin(icode)
       integer, intent(in) :: icode
     end subroutine warnin
+    subroutine windbr(xv, nx, ny, nw, a)
+      real, intent(in) :: xv
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      real, intent(in) :: a
+    end subroutine windbr
+    subroutine xaxis(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
+      real, intent(in) :: xa
+      real, intent(in) :: xe
+      real, intent(in) :: xor0
+      real, intent(in) :: xstp
+      integer, intent(in) :: nlen
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: it
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine xaxis
+    subroutine xaxlg(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
+      real, intent(in) :: xa
+      real, intent(in) :: xe
+      real, intent(in) :: xor0
+      real, intent(in) :: xstp
+      integer, intent(in) :: nlen
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: it
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine xaxlg
+    subroutine xdraw(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine xdraw
     function xinvrs(n)
       real :: xinvrs
       integer, intent(in) :: n
@@ -223,10 +1037,45 @@ module zorbel
       real, dimension(*), intent(in) :: yray
       integer, intent(in) :: n
     end subroutine xjpoly
+    subroutine xline(xray, yray)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+    end subroutine xline
+    subroutine xmove(x, y)
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine xmove
+    subroutine xpolyl(xray, yray, n)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+    end subroutine xpolyl
     function xposn(x)
       real :: xposn
       real, intent(in) :: x
     end function xposn
+    subroutine yaxis(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
+      real, intent(in) :: xa
+      real, intent(in) :: xe
+      real, intent(in) :: xor0
+      real, intent(in) :: xstp
+      integer, intent(in) :: nlen
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: it
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine yaxis
+    subroutine yaxlg(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
+      real, intent(in) :: xa
+      real, intent(in) :: xe
+      real, intent(in) :: xor0
+      real, intent(in) :: xstp
+      integer, intent(in) :: nlen
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: it
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine yaxlg
     function yinvrs(n)
       real :: yinvrs
       integer, intent(in) :: n

@@ -66,5 +66,67 @@ int label_width(float x, int ndig);   // characters of fixed_label
 // Control characters used in label texts: raise and reset.
 char label_exp_char();
 char label_reset_char();
+// Room of the labels of an axis across it, as labelx takes it.
+int label_room(float xa, float xe, float xor_, float xstp, int ilog, int iaxis);
+
+// Public routines of the axis system. graf overwrites its arguments when automatic
+// scaling is on.
+void graf(float& xa, float& xe, float& xor_, float& xstp, float& ya, float& ye, float& yor,
+          float& ystp);
+void endgrf();
+void setscl(const float* xray, int n, std::string_view cstr);
+void axslen(int nx, int ny);
+void axspos(int nx, int ny);
+void axsorg(int nx, int ny);
+void axstyp(std::string_view copt);
+void axsscl(std::string_view copt, std::string_view cax);
+void center();
+void axsbgd(int nclr);
+void setgrf(std::string_view c1, std::string_view c2, std::string_view c3, std::string_view c4);
+void ax2grf();
+void nograf();
+void neglog(float x);
+void nochek();
+void getpos(int& nx, int& ny);
+void getlen(int& nx, int& ny, int& nz);
+void getscl(int& nx, int& ny, int& nz);
+void xaxis(float xa, float xe, float xor_, float xstp, int nlen, std::string_view cstr, int it,
+           int nx, int ny);
+void yaxis(float xa, float xe, float xor_, float xstp, int nlen, std::string_view cstr, int it,
+           int nx, int ny);
+void xaxlg(float xa, float xe, float xor_, float xstp, int nlen, std::string_view cstr, int it,
+           int nx, int ny);
+void yaxlg(float xa, float xe, float xor_, float xstp, int nlen, std::string_view cstr, int it,
+           int nx, int ny);
+void labels(std::string_view copt, std::string_view cax);
+void labdig(int ndig, std::string_view cax);
+void labdis(int ndis, std::string_view cax);
+void labpos(std::string_view copt, std::string_view cax);
+void labjus(std::string_view copt, std::string_view cax);
+void labtyp(std::string_view copt, std::string_view cax);
+void ticks(int ntics, std::string_view cax);
+void ticlen(int nmaj, int nmin);
+void ticpos(std::string_view copt, std::string_view cax);
+void logtic(std::string_view copt);
+void name(std::string_view cstr, std::string_view cax);
+void hname(int nh);
+void namdis(int ndis, std::string_view cax);
+void namjus(std::string_view copt, std::string_view cax);
+void rvynam();
+void axends(std::string_view copt, std::string_view cax);
+void intax();
+void noline(std::string_view cax);
+void axclrs(int nclr, std::string_view copt, std::string_view cax);
+void mylab(std::string_view cstr, int itick, std::string_view cax);
+void rgtlab();
+void timopt();
+// Keywords of the label types of the three axes, blank-padded to 8 characters.
+void getlab(std::string& cx, std::string& cy, std::string& cz);
+void getsp1(int& n1, int& n2, int& n3);
+void getsp2(int& n1, int& n2, int& n3);
+void gettic(int& n1, int& n2, int& n3);
+void getdig(int& n1, int& n2, int& n3);
+void gettcl(int& nmaj, int& nmin);
+void gethnm(int& nh);
 
 }  // namespace zb

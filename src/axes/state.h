@@ -69,9 +69,10 @@ struct AxesState {
 
   // Drawing state of one axis: signed distances and lengths (settic), the parts that
   // sgrafp hides for one side, and what it saved.
-  int nlbdsg = 0, nnmdsg = 0, ntmajs = 0, ntmins = 0;
+  int isgdir = 1, ntmajs = 24, ntmins = 16;   // sign of the direction, signed tick lengths
+  int irvtgl = 0;                             // rvline: the end a tick starts from
   FStr<132> csgnam;
-  int nsgtic = 0, isglin = 0, isglab = 0, isgaxs = -1;
+  int nsgtic = 0, isglin = 0, isglab = 0;
 
   // Frame of the axis system.
   int frame = 1;                              // thickness; 0 none, negative inward
