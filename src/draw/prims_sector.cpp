@@ -1,0 +1,127 @@
+// Solid ring sectors: one "sec" record on PostScript, an ARC command in the Kyocera
+// printer language, and a scanned polygon of 1-degree steps on every other output.
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "draw/colour.h"
+#include "draw/device.h"
+#include "draw/fill.h"
+#include "draw/line.h"
+#include "draw/prims.h"
+#include "draw/prims_internal.h"
+#include "frame/frame.h"
+
+namespace zb {
+
+namespace {
+
+// Grey patterns of the printer, rows as bytes, for ipat 1 to 9.
+constexpr std::array<std::array<int, 8>, 9> kKyoPatterns = {{
+    {1, 0, 0, 0, 0, 0, 0, 0},
+    {1, 0, 0, 0, 16, 0, 0, 0},
+    {1, 0, 0, 4, 0, 0, 32, 0},
+    {1, 16, 0, 0, 2, 32, 0, 0},
+    {1, 8, 64, 0, 4, 0, 16, 128},
+    {1, 8, 64, 2, 16, 128, 4, 32},
+    {85, 0, 170, 0, 85, 0, 170, 0},
+    {85, 170, 85, 170, 85, 170, 85, 170},
+    {255, 255, 255, 255, 255, 255, 255, 255},
+}};
+
+int scaled(float v) { return prims_nint(v * zg.devscl); }
+
+// PostScript: x y r1 r2 a1 a2 r g b sec, "(4(I5,1X),2(F8.2,1X),3(I3,1X),A)".
+void sector_ps(float x, float y, int nr1, int nr2, float alpha, float beta, int ncol) {
+  int r, g, b;
+  qqgrgb(((ncol % 256) + 256) % 256, r, g, b);
+  const bool turned = zg.nypag < zg.nxpag && zg.ipgmod != 2;
+  int v[4];
+  if (turned) {
+    v[0] = scaled(y);
+    v[1] = scaled(x);
+    alpha += 90.0f;
+    beta += 90.0f;
+  } else {
+    v[0] = scaled(x);
+    v[1] = scaled(float(zg.nypag) - y);
+  }
+  v[2] = scaled(float(nr1));
+  v[3] = scaled(float(nr2));
+  std::string rec;
+  for (int k : v) rec += fmt_i(k, 5) + " ";
+  rec += fmt_f(alpha, 8, 2) + " " + fmt_f(beta, 8, 2) + " ";
+  rec += fmt_i(r, 3) + " " + fmt_i(g, 3) + " " + fmt_i(b, 3) + " sec ";
+  qqstrk();
+  xjdraw(0.0f, 0.0f, 999);   // the open path goes out first
+  qpsbuf(rec);
+}
+
+// Other outputs: the ring as a polygon in 1-degree steps, scanned at 2 plot units.
+void sector_scan(float x, float y, int nr1, int nr2, float alpha, float beta, int ncol) {
+  beta = std::min(beta, alpha + 360.0f);
+  std::array<float, 800> xs{}, ys{};
+  int n = 0;
+  const int steps = int(std::ceil(std::min(beta - alpha, 360.0f)));
+  auto at = [&](float r, float t) {
+    xs[std::size_t(n)] = x + r * std::cos(t * zg.fpi);
+    ys[std::size_t(n)] = y - r * std::sin(t * zg.fpi);
+    ++n;
+  };
+  for (int k = 0; k < steps; ++k) {
+    if (alpha + float(k) >= beta) break;
+    at(float(nr2), alpha + float(k));
+  }
+  at(float(nr2), beta);
+  if (nr1 == 0) {
+    xs[std::size_t(n)] = x;
+    ys[std::size_t(n)] = y;
+    ++n;
+  } else {
+    for (int k = 0; k < steps; ++k) {
+      if (beta - float(k) <= alpha) break;
+      at(float(nr1), beta - float(k));
+    }
+    at(float(nr1), alpha);
+  }
+  const int iclr = zg.ipenclr;
+  setclr(ncol);
+  gkwfa(n, xs.data(), ys.data(), 2.0f, xline);
+  setclr(iclr);
+}
+
+}  // namespace
+
+void kdarc(int nx, int ny, int nr2, int nr1, float beta, float alpha, int ipat) {
+  if (ipat < 1 || ipat > 9 || !prims_finite(alpha, beta)) return;
+  const int x = scaled(float(std::int64_t(nx) + zg.nxorg));
+  const int y = scaled(float(std::int64_t(ny) + zg.nyorg));
+  std::string rec = "MAP " + fmt_i(x, 4) + "," + fmt_i(y, 4) + "; FPAT ";
+  for (std::size_t i = 0; i < 8; ++i) {
+    if (i > 0) rec += ",";
+    rec += fmt_i(kKyoPatterns[std::size_t(ipat - 1)][i], 3);
+  }
+  // The printer counts angles clockwise from the top.
+  rec += "; ARC " + fmt_i(scaled(float(nr1)), 4) + "," + fmt_i(scaled(float(nr2)), 4) + "," +
+         fmt_i(90L - prims_nint(beta), 4) + "," + fmt_i(90L - prims_nint(alpha), 4) + ";";
+  qqsbuf(rec);
+}
+
+void draw_sector(int nx, int ny, int nr1, int nr2, float alpha, float beta, int ncol) {
+  if (nr2 < 1) return warni1(51, nr2);
+  if (nr1 < 0) return warni1(1, nr1);
+  if (!prims_finite(alpha, beta) || !(beta - alpha >= zg.eps)) return warnin(8);
+  if (nr2 < nr1) return warnin(7);
+  const int d = zg.idev;
+  if (d >= 301 && d <= 400) return kdarc(nx, ny, nr2, nr1, beta, alpha, ((ncol % 10) + 10) % 10);
+  const float x = float(std::int64_t(nx) + zg.nxorg), y = float(std::int64_t(ny) + zg.nyorg);
+  if (d >= 501 && d <= 600 && d != 511) return sector_ps(x, y, nr1, nr2, alpha, beta, ncol);
+  sector_scan(x, y, nr1, nr2, alpha, beta, ncol);
+}
+
+void sector(int nx, int ny, int nr1, int nr2, float alpha, float beta, int ncol) {
+  if (jqqlev(1, 3, "SECTOR")) return;
+  draw_sector(nx, prims_iyvl(ny), nr1, nr2, alpha, beta, ncol);
+}
+
+}  // namespace zb
