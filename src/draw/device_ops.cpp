@@ -221,17 +221,38 @@ void dbox(float x1, float y1, float x2, float y2, int iclr) {
 void qqsclr(int iclr) {
   zg.ipenclr = iclr;
   const int d = zg.idev;
-  if (d < 101 || (d >= 601 && d <= 700)) return;   // the drivers take iclr as it is
+  // Screen and raster store resolve the colour word themselves.
+  if (d < 101) { qqwclr(iclr); return; }
+  if (d >= 601 && d <= 700) { qqvclr(iclr); return; }
+  const bool rgb_value = (unsigned(iclr) >> 24) == 1u;
   int r, g, b;
   qqgrgb(iclr, r, g, b);
-  int idx = ((iclr >> 24) == 1) ? qqgidx(r, g, b) : (((iclr % 256) + 256) % 256);
-  if (is_ps(d)) {
+  // Table index of the value: explicit colours on outputs of 8 bits take the nearest entry.
+  auto index = [&] { return rgb_value ? qqgidx(r, g, b) : ((iclr % 256) + 256) % 256; };
+  if (d == 201) {
+    // Metafile: index 0 counts as 256; each prefix 99.0 adds 89 to the field behind it.
+    const int c = index() == 0 ? 256 : index();
+    const int k = c / 89 - (c % 89 == 0 ? 1 : 0);
+    for (int i = 0; i < k; ++i) qqsbuf("99.0000000");
+    qqsbuf(fmt_f(double(c - 89 * k) + 9.0, 10, 7));
+  } else if (d == 211) {
+    xjdraw(0.0f, 0.0f, 999);
+    const char rec[6] = {'P', char(131), char(r), char(g), char(b), 0};
+    qqsbuf(rec, 6);
+  } else if (d == 221) {
+    qqwmf3(r, g, b);
+  } else if (d >= 401 && d <= 500) {
+    qqsbuf("SP" + itoa(index()) + ";");
+  } else if (d == 511) {
+    qqpdf3(r, g, b, 0);
+    qqpdf3(r, g, b, 1);
+  } else if (is_ps(d)) {
     xjdraw(0.0f, 0.0f, 999);
     qpsbuf(fmt_i(r, 3) + " " + fmt_i(g, 3) + " " + fmt_i(b, 3) + " f ");
-  } else if (d >= 401 && d <= 500) {
-    qqsbuf("SP" + itoa(idx) + ";");
   } else if (d == 701) {
     java_line("  g.setColor (new Color (" + itoa(r) + "," + itoa(g) + "," + itoa(b) + "));");
+  } else if (d == 801) {
+    qqsvg3(r, g, b);
   }
 }
 
