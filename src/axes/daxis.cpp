@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "axes/axes.h"
-#include "axes/labels_internal.h"
+#include "axes/internal.h"
 #include "draw/colour.h"
 #include "draw/line.h"
 #include "frame/frame.h"
@@ -185,8 +185,8 @@ void rvline(int x1, int y1, int x2, int y2) {
   zg.irvtgl = 1 - zg.irvtgl;
 }
 
-void markx(float xa, float xe, float xor_, float xstp, int nlen, int nmaj, int nmin, int ntic,
-           int nx, int ny, int ilog, int itcps, int iaxis) {
+void tick_marks(float xa, float xe, float xor_, float xstp, int nlen, int ntic, int nx, int ny,
+                int ilog, int iaxis, const std::function<void(int, bool)>& fn) {
   if (ntic <= 0 || !(xe != xa) || !std::isfinite(xstp) || xstp == 0.0f) return;
   const float s = float(nlen - 1) / (xe - xa);
   int n = ntic;
@@ -208,22 +208,13 @@ void markx(float xa, float xe, float xor_, float xstp, int nlen, int nmaj, int n
   const long limit = 4L * std::labs(long(nlen)) + 100;
   if (na + nb > limit) return;
   const bool horizontal = iaxis == 1;
-  const int b = horizontal ? ny : nx;
-  const int bmaj = itcps == 2 ? b - nmaj / 2 : b;
-  const int bmin = itcps == 2 ? b - nmin / 2 : b;
   const float c = horizontal ? float(nx) + 0.5f + (xor_ - xa) * s : float(ny) + 0.5f - (xor_ - xa) * s;
-  auto tick = [&](int pos, bool major) {
-    const int b0 = major ? bmaj : bmin;
-    const int len = major ? nmaj : nmin;
-    if (horizontal) rvline(pos, b0, pos, b0 + len);
-    else rvline(b0, pos, b0 + len, pos);
-  };
-  zg.irvtgl = 0;
   for (long i = -nb; i <= na; ++i) {
     const float along = float(i) * s * t;
-    tick(trunc_int(horizontal ? c + along : c - along), i % n == 0);
+    fn(trunc_int(horizontal ? c + along : c - along), i % n == 0);
   }
   if (!decade) return;
+  // Decades get minor ticks at 2 .. 9 times their value.
   const long nb2 = trunc_int((xor_ - xa) / step + 1.0001f);
   const long na2 = trunc_int((xe - xor_) / step + 1.0001f);
   if (na2 + nb2 > limit) return;
@@ -234,9 +225,24 @@ void markx(float xa, float xe, float xor_, float xstp, int nlen, int nmaj, int n
       const float p = std::log10(float(j)) + dec;
       if (p < lo || p > hi) continue;
       const int off = nint((p - xa) * s);
-      tick(horizontal ? nx + off : ny - off, false);
+      fn(horizontal ? nx + off : ny - off, false);
     }
   }
+}
+
+void markx(float xa, float xe, float xor_, float xstp, int nlen, int nmaj, int nmin, int ntic,
+           int nx, int ny, int ilog, int itcps, int iaxis) {
+  const bool horizontal = iaxis == 1;
+  const int b = horizontal ? ny : nx;
+  const int bmaj = itcps == 2 ? b - nmaj / 2 : b;
+  const int bmin = itcps == 2 ? b - nmin / 2 : b;
+  zg.irvtgl = 0;
+  tick_marks(xa, xe, xor_, xstp, nlen, ntic, nx, ny, ilog, iaxis, [&](int pos, bool major) {
+    const int b0 = major ? bmaj : bmin;
+    const int len = major ? nmaj : nmin;
+    if (horizontal) rvline(pos, b0, pos, b0 + len);
+    else rvline(b0, pos, b0 + len, pos);
+  });
 }
 
 void daxis(float xa, float xe, float xor_, float xstp, int nlen, std::string_view cname, int idir,

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "axes/axes.h"
-#include "axes/labels_internal.h"
+#include "axes/internal.h"
 #include "frame/frame.h"
 #include "text/text.h"
 

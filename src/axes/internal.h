@@ -1,4 +1,4 @@
-// Shared between the label texts and axis drawing inside this folder.
+// Shared between the scaling, the label texts and axis drawing inside this folder.
 #pragma once
 #include <functional>
 #include <string_view>
@@ -17,6 +17,11 @@ bool crossed_system();
 // Calls fn(i, v) for each label of an axis that labelx draws, with the value v of label i.
 void for_each_label(float xe, float xor_, float xstp, int iaxis,
                     const std::function<void(int, float)>& fn);
+
+// Calls fn(pos, major) for each tick of an axis in the order markx draws them: pos is
+// the plot coordinate along the axis. ntic ticks per label interval.
+void tick_marks(float xa, float xe, float xor_, float xstp, int nlen, int ntic, int nx, int ny,
+                int ilog, int iaxis, const std::function<void(int, bool)>& fn);
 
 // Every label and name goes through axis_text to dtext. Tests may watch the placements.
 using AxisTextSink = void (*)(std::string_view text, int nx, int ny, int nang, int nh);
