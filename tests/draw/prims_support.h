@@ -53,6 +53,39 @@ inline std::vector<Stroke> hpgl_strokes(const std::string& file, float scale, in
   return out;
 }
 
+// Stroked paths ("x y u ... x y d ... p") and filled polygons ("... eofill") of a
+// PostScript body, in device units; paths of a single point are left out.
+struct PsShapes {
+  std::vector<Stroke> paths, fills;
+};
+inline PsShapes ps_shapes(const std::string& body) {
+  PsShapes out;
+  std::vector<float> num;
+  Stroke cur;
+  std::string text = body;
+  for (char& c : text)
+    if (c == '\n') c = ' ';
+  std::size_t at = 0;
+  while (at < text.size()) {
+    const std::size_t end = std::min(text.find(' ', at), text.size());
+    const std::string t = text.substr(at, end - at);
+    at = end + 1;
+    if (t.empty()) continue;
+    if ((t == "u" || t == "d") && num.size() >= 2) {
+      if (t == "u") cur.clear();
+      cur.push_back({num[num.size() - 2], num.back()});
+    } else if (t == "p" || t == "eofill") {
+      if (cur.size() > 1) (t == "p" ? out.paths : out.fills).push_back(cur);
+      cur.clear();
+    } else if (t.find_first_not_of("-.0123456789") == std::string::npos) {
+      num.push_back(std::stof(t));
+      continue;
+    }
+    num.clear();
+  }
+  return out;
+}
+
 // Fixture: sessions on HPGL and PostScript.
 class PrimsFixture : public Fixture {
  protected:
