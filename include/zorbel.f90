@@ -3,6 +3,12 @@
 module zorbel
   implicit none
   interface
+    subroutine alfcha(ich)
+      integer, intent(in) :: ich
+    end subroutine alfcha
+    subroutine angle(nang)
+      integer, intent(in) :: nang
+    end subroutine angle
     subroutine arcell(nx, ny, na, nb, alpha, beta, theta)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -55,6 +61,9 @@ module zorbel
     subroutine axstyp(copt)
       character(len=*), intent(in) :: copt
     end subroutine axstyp
+    subroutine basalf(c)
+      character(len=*), intent(in) :: c
+    end subroutine basalf
     subroutine bezier(xray, yray, n, xpray, ypray, np)
       real, dimension(*), intent(in) :: xray
       real, dimension(*), intent(in) :: yray
@@ -65,6 +74,18 @@ module zorbel
     end subroutine bezier
     subroutine center()
     end subroutine center
+    subroutine chaang(angle)
+      real, intent(in) :: angle
+    end subroutine chaang
+    subroutine chacod(c)
+      character(len=*), intent(in) :: c
+    end subroutine chacod
+    subroutine chaspc(xspc)
+      real, intent(in) :: xspc
+    end subroutine chaspc
+    subroutine chawth(xfac)
+      real, intent(in) :: xfac
+    end subroutine chawth
     subroutine chkini(c)
       character(len=*), intent(in) :: c
     end subroutine chkini
@@ -123,6 +144,10 @@ module zorbel
       integer, intent(in) :: nlow
       integer, intent(in) :: nhigh
     end subroutine colran
+    subroutine comgot()
+    end subroutine comgot
+    subroutine complx()
+    end subroutine complx
     subroutine connpt(x, y)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -183,6 +208,8 @@ module zorbel
       integer, intent(in) :: iy
       integer, intent(in) :: icode
     end subroutine dtdraw
+    subroutine duplx()
+    end subroutine duplx
     subroutine ellips(nx, ny, na, nb)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -217,6 +244,10 @@ module zorbel
       character(len=*), intent(in) :: cstr
       character(len=*), intent(in) :: cmod
     end subroutine errmod
+    subroutine eushft(cnat, cshf)
+      character(len=*), intent(in) :: cnat
+      character(len=*), intent(in) :: cshf
+    end subroutine eushft
     subroutine ffllin(xpair, ypair)
       real, dimension(*), intent(in) :: xpair
       real, dimension(*), intent(in) :: ypair
@@ -224,12 +255,22 @@ module zorbel
     subroutine filmod(c)
       character(len=*), intent(in) :: c
     end subroutine filmod
+    subroutine fixspc(xfac)
+      real, intent(in) :: xfac
+    end subroutine fixspc
     subroutine gbyt03(iv, i1, i2, i3)
       integer, intent(in) :: iv
       integer, intent(inout) :: i1
       integer, intent(inout) :: i2
       integer, intent(inout) :: i3
     end subroutine gbyt03
+    subroutine gcspec(idx, iflag)
+      integer, intent(inout) :: idx
+      integer, intent(inout) :: iflag
+    end subroutine gcspec
+    subroutine getalf(c)
+      character(len=*), intent(inout) :: c
+    end subroutine getalf
     subroutine getclp(nx, ny, nw, nh)
       integer, intent(inout) :: nx
       integer, intent(inout) :: ny
@@ -304,6 +345,10 @@ module zorbel
       integer, intent(inout) :: ny
       integer, intent(inout) :: nz
     end subroutine getscl
+    subroutine getshf(cnat, cshf)
+      character(len=*), intent(in) :: cnat
+      character(len=*), intent(inout) :: cshf
+    end subroutine getshf
     subroutine getsp1(n1, n2, n3)
       integer, intent(inout) :: n1
       integer, intent(inout) :: n2
@@ -342,6 +387,14 @@ module zorbel
       real, intent(in) :: xstep
       external :: span
     end subroutine gkwfa
+    subroutine gmxalf(calph, cstr1, cstr2, n)
+      character(len=*), intent(in) :: calph
+      character(len=*), intent(inout) :: cstr1
+      character(len=*), intent(inout) :: cstr2
+      integer, intent(inout) :: n
+    end subroutine gmxalf
+    subroutine gothic()
+    end subroutine gothic
     subroutine grace(ngrace)
       integer, intent(in) :: ngrace
     end subroutine grace
@@ -364,6 +417,15 @@ module zorbel
       character(len=*), intent(inout) :: cuser
       integer, intent(inout) :: nl
     end subroutine gusrid
+    subroutine height(nh)
+      integer, intent(in) :: nh
+    end subroutine height
+    subroutine helve()
+    end subroutine helve
+    subroutine helves()
+    end subroutine helves
+    subroutine helvet()
+    end subroutine helvet
     subroutine hname(nh)
       integer, intent(in) :: nh
     end subroutine hname
@@ -383,6 +445,9 @@ module zorbel
       integer, intent(in) :: nw
       integer, intent(in) :: nh
     end subroutine hwpage
+    subroutine iangle(ndeg)
+      integer, intent(in) :: ndeg
+    end subroutine iangle
     function indrgb(xr, xg, xb)
       integer :: indrgb
       real, intent(in) :: xr
@@ -472,6 +537,33 @@ module zorbel
       character(len=*), intent(in) :: copt
       character(len=*), intent(in) :: cax
     end subroutine labtyp
+    subroutine lcinit(ifont)
+      integer, intent(in) :: ifont
+    end subroutine lcinit
+    subroutine lcital()
+    end subroutine lcital
+    subroutine lcmath()
+    end subroutine lcmath
+    subroutine lcomcy()
+    end subroutine lcomcy
+    subroutine lcomgr()
+    end subroutine lcomgr
+    subroutine lcomit()
+    end subroutine lcomit
+    subroutine lcomro()
+    end subroutine lcomro
+    subroutine lcomsc()
+    end subroutine lcomsc
+    subroutine lcsets(packed, n)
+      integer(2), dimension(*), intent(in) :: packed
+      integer, intent(in) :: n
+    end subroutine lcsets
+    subroutine lgital()
+    end subroutine lgital
+    subroutine lgroma()
+    end subroutine lgroma
+    subroutine lgscri()
+    end subroutine lgscri
     subroutine lincyc(i, ityp)
       integer, intent(in) :: i
       integer, intent(in) :: ityp
@@ -509,6 +601,11 @@ module zorbel
     subroutine lsechk(c)
       character(len=*), intent(in) :: c
     end subroutine lsechk
+    subroutine messag(c, nx, ny)
+      character(len=*), intent(in) :: c
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine messag
     subroutine metafl(c)
       character(len=*), intent(in) :: c
     end subroutine metafl
@@ -565,6 +662,10 @@ module zorbel
     end subroutine neglog
     subroutine newpag()
     end subroutine newpag
+    function nlmess(c)
+      integer :: nlmess
+      character(len=*), intent(in) :: c
+    end function nlmess
     subroutine noarln()
     end subroutine noarln
     subroutine nochek()
@@ -576,6 +677,12 @@ module zorbel
     subroutine noline(cax)
       character(len=*), intent(in) :: cax
     end subroutine noline
+    subroutine number(x, ndig, nx, ny)
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine number
     function nxposn(x)
       integer :: nxposn
       real, intent(in) :: x
@@ -641,6 +748,10 @@ module zorbel
     end subroutine qqdraw
     subroutine qqerrfil()
     end subroutine qqerrfil
+    subroutine qqgcod(ich, icode)
+      integer, intent(in) :: ich
+      integer, intent(inout) :: icode
+    end subroutine qqgcod
     subroutine qqgetenv(cname, cval)
       character(len=*), intent(in) :: cname
       character(len=*), intent(inout) :: cval
@@ -824,6 +935,9 @@ module zorbel
     end subroutine rndrec
     subroutine rvynam()
     end subroutine rvynam
+    subroutine salfpa(ialf)
+      integer, intent(in) :: ialf
+    end subroutine salfpa
     subroutine scale(copt, cax)
       character(len=*), intent(in) :: copt
       character(len=*), intent(in) :: cax
@@ -851,6 +965,8 @@ module zorbel
     end subroutine sector
     subroutine sendbf()
     end subroutine sendbf
+    subroutine serif()
+    end subroutine serif
     subroutine setclp()
     end subroutine setclp
     subroutine setclr(iclr)
@@ -887,11 +1003,21 @@ module zorbel
     subroutine setvlt(c)
       character(len=*), intent(in) :: c
     end subroutine setvlt
+    subroutine shdcha()
+    end subroutine shdcha
     subroutine shdpat(ipat)
       integer, intent(in) :: ipat
     end subroutine shdpat
     subroutine shwvlt()
     end subroutine shwvlt
+    subroutine simplx()
+    end subroutine simplx
+    subroutine smxalf(calph, cstr1, cstr2, n)
+      character(len=*), intent(in) :: calph
+      character(len=*), intent(in) :: cstr1
+      character(len=*), intent(in) :: cstr2
+      integer, intent(in) :: n
+    end subroutine smxalf
     subroutine solid()
     end subroutine solid
     subroutine sopnfl(kind, lun, ierr)
@@ -899,6 +1025,9 @@ module zorbel
       integer, intent(inout) :: lun
       integer, intent(inout) :: ierr
     end subroutine sopnfl
+    subroutine strsft(c)
+      character(len=*), intent(inout) :: c
+    end subroutine strsft
     subroutine strtpt(x, y)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -955,6 +1084,8 @@ module zorbel
       real, dimension(*), intent(in) :: xray
       real, dimension(*), intent(in) :: yray
     end subroutine trifll
+    subroutine triplx()
+    end subroutine triplx
     function trmlen(c)
       real :: trmlen
       character(len=*), intent(in) :: c
@@ -1084,6 +1215,8 @@ module zorbel
       real :: yposn
       real, intent(in) :: y
     end function yposn
+    subroutine zoralf()
+    end subroutine zoralf
     subroutine zorfin()
     end subroutine zorfin
     subroutine zorini()

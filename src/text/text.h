@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/alphabet.h"
+
 namespace zb {
 
 void messag(std::string_view cstr, int nx, int ny);
