@@ -187,4 +187,11 @@ void inipsc(int lun) {
   }
 }
 
+// A line attribute of the graphics state (width, cap, join, miter limit). PostScript
+// applies it when a path is stroked, so the pending path is stroked first.
+void psc_gstate(const std::string& rec) {
+  xjdraw(0.0f, 0.0f, 999);
+  qpsbuf(rec);
+}
+
 }  // namespace zb

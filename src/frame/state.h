@@ -44,6 +44,7 @@ struct FrameState {
   FStr<256> cdatdir;
   int ldatdir = 0;
   int nrecio = 0;
+  int ilogdn = 0;                // 1 once the usage log was written (once per process)
 
   bool operator==(const FrameState&) const = default;
 };
