@@ -10,11 +10,6 @@
 
 namespace zb {
 
-// The clipping rectangle of the axis system belongs to the line pipeline; until it is
-// there, axis systems leave the clipping window alone.
-void setclp();
-[[gnu::weak]] void setclp() {}
-
 namespace {
 
 constexpr float kEps = 1.0e-35f;
@@ -281,7 +276,8 @@ void endgrf() {
   if (jqqlev(0, 3, "ENDGRF")) return;
   if (zg.ilevel == 0) return;
   zg.ilevel = 1;
-  qqstrk();
+  release_axis_clip();
+  sendbf();
 }
 
 void setscl(const float* xray, int n, std::string_view cstr) {
