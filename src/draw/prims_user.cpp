@@ -232,8 +232,9 @@ void pointx(float x, float y, int nb, int nh, int ncol) {
   ierr = 0;
   if (x < zg.xumin || x > zg.xumax) ierr = 1;
   else if (y < zg.yumin || y > zg.yumax) ierr = 2;
-  if (ierr != 0 && zg.inochk == 0 && zg.ichek != 0 && zg.iwarn != 0 && zg.lunerr != 0)
-    lun_write(zg.lunerr, " <<<< (" + fmt_e(x, 12, 4) + " /" + fmt_e(y, 12, 4) +
+  if (ierr == 0 || zg.inochk != 0 || zg.ichek == 0 || zg.iwarn == 0 || zg.lunerr == 0) return;
+  qqerrfil();
+  lun_write(zg.lunerr, " <<<< (" + fmt_e(x, 12, 4) + " /" + fmt_e(y, 12, 4) +
                              ")  out of axis scaling!");
 }
 
