@@ -235,7 +235,7 @@ void pointx(float x, float y, int nb, int nh, int ncol) {
   if (ierr == 0 || zg.inochk != 0 || zg.ichek == 0 || zg.iwarn == 0 || zg.lunerr == 0) return;
   qqerrfil();
   lun_write(zg.lunerr, " <<<< (" + fmt_e(x, 12, 4) + " /" + fmt_e(y, 12, 4) +
-                             ")  out of axis scaling!");
+                           ")  out of axis scaling!");
 }
 
 void rlpoin(float x, float y, int nb, int nh, int ncol) {
