@@ -85,14 +85,23 @@ bool clip_circle(float& x1, float& y1, float& x2, float& y2, bool& moved) {
   }
   // One end inside: bisection between it and the outside end for the point on the circle.
   float ix = in1 ? x1 : x2, iy = in1 ? y1 : y2, ox = in1 ? x2 : x1, oy = in1 ? y2 : y1;
-  float mx = ox, my = oy;
+  float mx = ox, my = oy, rm = 0.0f;
   for (int k = 0; k < 20; ++k) {
     mx = 0.5f * (ix + ox);
     my = 0.5f * (iy + oy);
-    const float rm = std::sqrt((mx - cx) * (mx - cx) + (my - cy) * (my - cy));
+    rm = std::sqrt((mx - cx) * (mx - cx) + (my - cy) * (my - cy));
     if (std::fabs(rm - r) < 0.1f) break;
     if (rm < r) { ix = mx; iy = my; }
     else { ox = mx; oy = my; }
+  }
+  // An outside end too far away for 20 halvings: the cut of the line with the circle.
+  if (!(rm <= r + 0.1f)) {
+    float t1, t2;
+    if (!cutcrc(x1 - cx, y1 - cy, dx, dy, r, t1, t2)) return false;
+    const float t = in1 ? t2 : t1;
+    mx = x1 + t * dx;
+    my = y1 + t * dy;
+    if (!std::isfinite(mx) || !std::isfinite(my)) return false;
   }
   if (in1) {
     x2 = mx;

@@ -156,13 +156,19 @@ TEST_F(Clip, CircleClipping) {
   qqdraw(2000, 0);      // misses
   qqmove(1100, 1100);
   qqdraw(1200, 1000);   // wholly inside
+  qqmove(1000, 1000);
+  qqdraw(1.0e7f, 1000);   // too far for the halvings
+  qqmove(1000, 1000);
+  qqdraw(1.0e30f, 1.0e30f);
   sclpax(1);
   EXPECT_EQ(zg.iclpcirc, 0);
   const auto segs = close();
-  ASSERT_EQ(segs.size(), 3u) << zbt::show(segs);
+  ASSERT_GE(segs.size(), 4u) << zbt::show(segs);
   EXPECT_TRUE(zbt::same_seg(segs[0], {501, 1000, 1499, 1000}, 0.02f)) << zbt::show(segs);
   EXPECT_TRUE(zbt::same_seg(segs[1], {1000, 1000, 1000, 1499}, 0.1f)) << zbt::show(segs);
   EXPECT_TRUE(zbt::same_seg(segs[2], {1100, 1100, 1200, 1000})) << zbt::show(segs);
+  EXPECT_TRUE(zbt::same_seg(segs[3], {1000, 1000, 1499, 1000}, 0.1f)) << zbt::show(segs);
+  for (const auto& s : segs) EXPECT_LE(std::hypot(s.x2 - 1000, s.y2 - 1000), 499.1f) << zbt::show(segs);
 }
 
 TEST_F(Clip, ClpwinAndGetclpRoundTripWithEitherPageOrigin) {
