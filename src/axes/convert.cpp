@@ -124,6 +124,7 @@ void chkscl(const float* xray, const float* yray, int n) {
     const bool out = x < zg.xumin || x > zg.xumax ||
                      (zg.iaxknd != 1 && (y < zg.yumin || y > zg.yumax));
     if (!out) continue;
+    qqerrfil();
     lun_write(zg.lunerr, " <<<< (" + fmt_e(x, 12, 4) + " /" + fmt_e(y, 12, 4) +
                              ") out of axis scaling!");
   }

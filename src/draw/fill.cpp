@@ -221,7 +221,10 @@ bool gkwfa(int n, const float* xray, const float* yray, float xstep, SpanFn span
   for (int i = 0; i < n; ++i) {
     const int j = i + 1 == n ? 0 : i + 1;
     float x1 = xray[i], y1 = yray[i], x2 = xray[j], y2 = yray[j];
-    if (!std::isfinite(x1) || !std::isfinite(y1)) return false;
+    if (!std::isfinite(x1) || !std::isfinite(y1)) {
+      warni1(2, i + 1);
+      return false;
+    }
     ylow = std::min(ylow, y1);
     yhigh = std::max(yhigh, y1);
     if (y1 == y2) continue;

@@ -1,6 +1,6 @@
-// Helpers shared by the primitive files: rounding, rotation, and the drawing workers that
-// take plot coordinates with y already mapped, so that the rl* twins reuse them without
-// flipping y a second time.
+// Helpers shared by the primitive files: rounding, the page-origin flip on wide integers,
+// and the drawing workers that take plot coordinates with y already mapped, so that the
+// rl* twins reuse them without flipping y a second time.
 #pragma once
 #include <cmath>
 #include <cstdint>

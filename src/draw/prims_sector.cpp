@@ -57,10 +57,43 @@ void sector_ps(float x, float y, int nr1, int nr2, float alpha, float beta, int 
   qpsbuf(rec);
 }
 
+// Cuts a polygon to the half plane where side(x, y) >= 0 (Sutherland-Hodgman); the result
+// goes to (xo, yo), at most cap points. The scan of a huge sector then stays on the page.
+template <class Side>
+int cut_polygon(const float* x, const float* y, int n, float* xo, float* yo, int cap, Side side) {
+  int m = 0;
+  for (int i = 0; i < n && m + 2 <= cap; ++i) {
+    const int j = i + 1 == n ? 0 : i + 1;
+    const float si = side(x[i], y[i]), sj = side(x[j], y[j]);
+    if (si >= 0.0f) {
+      xo[m] = x[i];
+      yo[m++] = y[i];
+    }
+    if ((si >= 0.0f) != (sj >= 0.0f)) {
+      const float t = si / (si - sj);
+      xo[m] = x[i] + t * (x[j] - x[i]);
+      yo[m++] = y[i] + t * (y[j] - y[i]);
+    }
+  }
+  return m;
+}
+
+// The polygon cut to the clipping window widened by one unit; returns the new count.
+int cut_to_window(std::array<float, 1600>& x, std::array<float, 1600>& y, int n) {
+  std::array<float, 1600> u{}, v{};
+  const float x1 = float(zg.nclpx1) - 1.0f, x2 = float(zg.nclpx2) + 1.0f;
+  const float y1 = float(zg.nclpy1) - 1.0f, y2 = float(zg.nclpy2) + 1.0f;
+  const int cap = int(x.size());
+  n = cut_polygon(x.data(), y.data(), n, u.data(), v.data(), cap, [&](float a, float) { return a - x1; });
+  n = cut_polygon(u.data(), v.data(), n, x.data(), y.data(), cap, [&](float a, float) { return x2 - a; });
+  n = cut_polygon(x.data(), y.data(), n, u.data(), v.data(), cap, [&](float, float b) { return b - y1; });
+  return cut_polygon(u.data(), v.data(), n, x.data(), y.data(), cap, [&](float, float b) { return y2 - b; });
+}
+
 // Other outputs: the ring as a polygon in 1-degree steps, scanned at 2 plot units.
 void sector_scan(float x, float y, int nr1, int nr2, float alpha, float beta, int ncol) {
   beta = std::min(beta, alpha + 360.0f);
-  std::array<float, 800> xs{}, ys{};
+  std::array<float, 1600> xs{}, ys{};   // 800 points of the ring, room for the cut
   int n = 0;
   const int steps = int(std::ceil(std::min(beta - alpha, 360.0f)));
   auto at = [&](float r, float t) {
@@ -84,6 +117,8 @@ void sector_scan(float x, float y, int nr1, int nr2, float alpha, float beta, in
     }
     at(float(nr1), alpha);
   }
+  n = cut_to_window(xs, ys, n);
+  if (n < 3) return;
   const int iclr = zg.ipenclr;
   setclr(ncol);
   gkwfa(n, xs.data(), ys.data(), 2.0f, xline);

@@ -1,7 +1,9 @@
 // The rl* twins: primitives in user coordinates of the current axis system (levels 2 and
 // 3). Each checks its points for logarithmic axes and the scaling, clips to the axis
 // system, maps the points with qqpos2 and runs the plot-coordinate worker.
+#include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 
 #include "axes/axes.h"
 #include "draw/fill.h"
@@ -33,7 +35,6 @@ Plot pos(float xu, float yu) {
   qqpos2(xu, yu, p.x, p.y);
   return p;
 }
-int nint_pos(float v) { return prims_nint(v); }
 
 // A length in plot units on each axis: in a polar system the value times the x factor,
 // otherwise the distance of the mapped point and the mapped point plus the value.
@@ -72,7 +73,7 @@ void rlcirc(float xm, float ym, float r) {
   if (!enter({xm, xm + r}, {ym, ym + r})) return;
   const Plot p = pos(xm, ym);
   const int nr = length_x(xm, ym, r);
-  elpsln(nint_pos(p.x), nint_pos(p.y), nr, nr, 0.0f, 360.0f, 0.0f, 1, 0);
+  elpsln(prims_nint(p.x), prims_nint(p.y), nr, nr, 0.0f, 360.0f, 0.0f, 1, 0);
   leave();
 }
 
@@ -81,7 +82,7 @@ void rlell(float xm, float ym, float a, float b) {
   if (!prims_finite(xm, ym, a, b)) return warnin(2);
   if (!enter({xm, xm + a}, {ym, ym + b})) return;
   const Plot p = pos(xm, ym);
-  elpsln(nint_pos(p.x), nint_pos(p.y), length_x(xm, ym, a), length_y(xm, ym, b), 0.0f, 360.0f,
+  elpsln(prims_nint(p.x), prims_nint(p.y), length_x(xm, ym, a), length_y(xm, ym, b), 0.0f, 360.0f,
          0.0f, 1, 0);
   leave();
 }
@@ -91,7 +92,7 @@ void rlarc(float xm, float ym, float xa, float xb, float alpha, float beta, floa
   if (!prims_finite(xm, ym, xa, xb)) return warnin(2);
   if (!enter({xm, xm + xa}, {ym, ym + xb})) return;
   const Plot p = pos(xm, ym);
-  elpsln(nint_pos(p.x), nint_pos(p.y), length_x(xm, ym, xa), length_y(xm, ym, xb), alpha, beta,
+  elpsln(prims_nint(p.x), prims_nint(p.y), length_x(xm, ym, xa), length_y(xm, ym, xb), alpha, beta,
          theta, 1, 0);
   leave();
 }
@@ -102,7 +103,7 @@ void rlpie(float xm, float ym, float r, float alpha, float beta) {
   if (!enter({xm, xm + r}, {ym, ym + r})) return;
   const Plot p = pos(xm, ym);
   const int nr = length_x(xm, ym, r);
-  elpsln(nint_pos(p.x), nint_pos(p.y), nr, nr, alpha, beta, 0.0f, 1, 1);
+  elpsln(prims_nint(p.x), prims_nint(p.y), nr, nr, alpha, beta, 0.0f, 1, 1);
   leave();
 }
 
@@ -116,7 +117,7 @@ void rlrec(float x, float y, float w, float h) {
   if (nw == 0) warni1(2, nw);
   else if (nh == 0) warni1(2, nh);
   else {
-    const int ix = nint_pos(p.x), iy = nint_pos(p.y);
+    const int ix = prims_nint(p.x), iy = prims_nint(p.y);
     draw_rect(float(ix), float(iy), float(ix + nw - 1), float(iy + nh - 1));
   }
   leave();
@@ -130,7 +131,7 @@ void rlrnd(float x, float y, float w, float h, int iopt) {
   const int nw = prims_nint(std::trunc(std::fabs(q.x - p.x) + 0.5f));
   const int nh = prims_nint(std::trunc(std::fabs(q.y - p.y) + 0.5f));
   const int bad = jqqval(nw, 1, 32000) + jqqval(nh, 1, 32000) + jqqval(iopt, 0, 9);
-  if (bad == 0) draw_rndrec(nint_pos(p.x), nint_pos(p.y), nw, nh, iopt);
+  if (bad == 0) draw_rndrec(prims_nint(p.x), prims_nint(p.y), nw, nh, iopt);
   leave();
 }
 
@@ -139,7 +140,7 @@ void rlsec(float xm, float ym, float r1, float r2, float alpha, float beta, int 
   if (!prims_finite(xm, ym, r1, r2)) return warnin(2);
   Plot p{};
   qqrel2(xm, ym, p.x, p.y);
-  const int ix = nint_pos(p.x), iy = nint_pos(p.y);
+  const int ix = prims_nint(p.x), iy = prims_nint(p.y);
   auto radius = [&](float r) {
     const std::int64_t d = std::int64_t(ix) - keep_name([&] { return nxposn(xm + r); });
     return int(std::min<std::int64_t>(d < 0 ? -d : d, 2147483647));
@@ -156,7 +157,7 @@ void rlsymb(int nsym, float x, float y) {
     return draw_symbol(nsym, 999, 999);
   if (!enter({x}, {y})) return;
   const Plot p = pos(x, y);
-  draw_symbol(nsym, nint_pos(p.x), nint_pos(p.y));
+  draw_symbol(nsym, prims_nint(p.x), prims_nint(p.y));
   leave();
 }
 
@@ -165,7 +166,7 @@ void rlvec(float x1, float y1, float x2, float y2, int ivec) {
   if (!prims_finite(x1, y1, x2, y2)) return warnin(2);
   if (!enter({x1, x2}, {y1, y2})) return;
   const Plot p = pos(x1, y1), q = pos(x2, y2);
-  draw_vector(nint_pos(p.x), nint_pos(p.y), nint_pos(q.x), nint_pos(q.y), ivec);
+  draw_vector(prims_nint(p.x), prims_nint(p.y), prims_nint(q.x), prims_nint(q.y), ivec);
   leave();
 }
 
@@ -175,7 +176,7 @@ void rlwind(float xv, float x, float y, int nw, float a) {
   FlipGuard guard;
   if (!enter({x}, {y})) return;
   const Plot p = pos(x, y);
-  draw_windbr(xv, nint_pos(p.x), nint_pos(p.y), nw, a);
+  draw_windbr(xv, prims_nint(p.x), prims_nint(p.y), nw, a);
   leave();
 }
 

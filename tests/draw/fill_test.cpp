@@ -163,7 +163,9 @@ TEST_F(Fill, ScanFollowsTheEvenOddRule) {
           for (const auto& s : row) covered |= s.x1 < x && x < s.x2;
           bool near_edge = false;
           for (const auto& s : row) near_edge |= std::fabs(x - s.x1) < 0.01f || std::fabs(x - s.x2) < 0.01f;
-          if (!near_edge) EXPECT_EQ(covered, inside(p, x, y)) << "x " << x << " y " << y << " step " << step;
+          if (!near_edge) {
+            EXPECT_EQ(covered, inside(p, x, y)) << "x " << x << " y " << y << " step " << step;
+          }
         }
       }
     }
@@ -279,7 +281,9 @@ TEST_F(Fill, FallBacksToHatching) {
     zg.ishield = 0;
     const auto tok = finish_ps();
     EXPECT_EQ(count(tok, "eofill"), c.eofills) << c.what;
-    if (c.eofills == 0) EXPECT_GT(count(tok, "u"), 50) << c.what;
+    if (c.eofills == 0) {
+      EXPECT_GT(count(tok, "u"), 50) << c.what;
+    }
   }
 }
 

@@ -156,6 +156,7 @@ TEST_F(Shapes, RectangleCornersAndPageOrigin) {
   ASSERT_EQ(b.size(), 1u);
   EXPECT_FLOAT_EQ(b[0][0].y, float(zg.nypag - 200));
   EXPECT_FLOAT_EQ(b[0][2].y, float(zg.nypag - 229));
+  strokes([] { pagorg("TOP"); });   // the page origin outlives the session
   // noarln and no pattern: nothing at all.
   EXPECT_TRUE(strokes([] {
     noarln();
@@ -200,6 +201,7 @@ TEST_F(Shapes, ClosedPolylineAndStylePoints) {
     pagorg("BOTT");
     strtpt(100, 100);
     connpt(300, 400);
+    pagorg("TOP");
   });
   ASSERT_EQ(t.size(), 1u);
   EXPECT_FLOAT_EQ(t[0][0].y, float(zg.nypag) - 100.0f);

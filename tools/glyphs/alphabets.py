@@ -20,8 +20,9 @@ GERMAN = ["A", "O", "U", "a", "o", "u"]          # with umlaut, codes 127..132; 
 class Hershey:
     """A Hershey file in ASCII order, its glyphs moved to y upward and their ink to x = 0."""
 
-    def __init__(self, name, weight=1, keep_bounds=False):
+    def __init__(self, name, weight=1, keep_bounds=False, descender=None):
         self.name = name
+        self.descender = descender
         self.path = os.path.join(HERSHEY, name + ".jhf")
         self.raw = hershey.ascii_glyphs(self.path)
         self.weight = weight
@@ -31,6 +32,9 @@ class Hershey:
         glyph = self.raw[ord(ch)]
         lines = hershey.to_font_units(glyph)
         lines = [l if len(l) > 1 else l * 2 for l in lines]
+        if self.descender:   # long descenders pressed into the cell, down to -7
+            f = 7.0 / self.descender
+            lines = [[(x, y if y >= 0 else int(round(y * f))) for x, y in l] for l in lines]
         if self.keep_bounds:      # script letters join at their bounds
             return lines
         return C.tight(lines)

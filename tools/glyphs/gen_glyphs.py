@@ -55,7 +55,7 @@ def stroke_alphabets():
     rs, rd, rt = A.Hershey("rowmans"), A.Hershey("rowmand", 2), A.Hershey("rowmant", 3)
     cr, ci = A.Hershey("timesr", 2), A.Hershey("timesi", 2)
     gs, gc = A.Hershey("greeks"), A.Hershey("greekc", 2)
-    sc = A.Hershey("scriptc", 2, keep_bounds=True)
+    sc = A.Hershey("scriptc", 2, keep_bounds=True, descender=12)
     cy = A.Hershey("cyrillic", 2)
     ge, gi, gg = A.Hershey("gothiceng", 2), A.Hershey("gothicita", 2), A.Hershey("gothicger", 2)
     italic = [ci(k) for k in A.LETTERS[26:]] + [A.umlaut(ci, b) for b in "aou"]

@@ -117,6 +117,7 @@ class Pool:
         self.byte_range = byte_range
         self.coord_range = coord_range
         self.points = []
+        self.steps = []       # steps[k]: from point k to point k + 1
         self.windows = {}     # (deltas) -> list of pool starts (0-based)
         self.records = []     # one list of words per glyph, length word included
 
@@ -152,9 +153,13 @@ class Pool:
 
     def _index_run(self, first, last):
         """Registers every window that ends inside points[first..last] (windows may start earlier)."""
+        pts, steps = self.points, self.steps
+        while len(steps) < len(pts) - 1:
+            k = len(steps)
+            steps.append((pts[k + 1][0] - pts[k][0], pts[k + 1][1] - pts[k][1]))
         for j in range(first, last + 1):
             for i in range(max(0, j - self.MAX_WINDOW), j):
-                key = _deltas(self.points[i:j + 1])
+                key = tuple(steps[i:j])
                 self.windows.setdefault(key, []).append(i)
 
     def _fits(self, pts):

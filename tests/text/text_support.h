@@ -1,0 +1,77 @@
+// Text tests: a session on the metafile whose pen stream is read back into plot coordinates,
+// and the advance of single characters measured with alfcha.
+#pragma once
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "support/harness.h"
+#include "text/text.h"
+
+namespace zbt {
+
+struct Pen {
+  float x, y;
+  int code;   // 3 move, 2 draw
+};
+
+// The metafile stores fields of 10 characters: x and y as fractions of the longer page side,
+// y upward, then the pen code when it changes; fields of 9.0 and above are colours or the end.
+inline std::vector<Pen> metafile_pen(const std::string& file) {
+  std::string all;
+  for (const auto& l : read_lines(file)) all += l;
+  std::vector<double> f;
+  for (std::size_t i = 0; i + 10 <= all.size(); i += 10) f.push_back(std::stod(all.substr(i, 10)));
+  const float mx = float(std::max(zb::zg.nxpag, zb::zg.nypag));
+  std::vector<Pen> steps;
+  int code = 0;
+  for (std::size_t i = 0; i + 1 < f.size();) {
+    if (f[i] > 1.5) {
+      ++i;
+      continue;
+    }
+    const float x = float(f[i] * mx), y = float(zb::zg.nypag) - float(f[i + 1] * mx);
+    i += 2;
+    if (i < f.size() && (f[i] == 2.0 || f[i] == 3.0)) code = int(f[i++]);
+    steps.push_back({x, y, code});
+  }
+  return steps;
+}
+
+class TextSession : public Fixture {
+ protected:
+  void open(const char* fmt = "POST") {
+    zb::metafl(fmt);
+    zb::zorini();
+    take_text();
+  }
+  // Pen steps of the lines that draw() puts on a metafile page.
+  template <class F>
+  std::vector<Pen> drawn(F draw) {
+    open("ZMET");
+    draw();
+    zb::zorfin();
+    take_text();
+    // Only the points of drawn segments: the stream also holds moves of the page's start and end.
+    const auto all = metafile_pen(zb::zg.cplotfl.str());
+    std::vector<Pen> pts;
+    for (std::size_t i = 1; i < all.size(); ++i)
+      if (all[i].code == 2) {
+        if (pts.empty() || all[i - 1].code != 2) pts.push_back({all[i - 1].x, all[i - 1].y, 3});
+        pts.push_back(all[i]);
+      }
+    return pts;
+  }
+  // How far the pen moves for one character of the current alphabet at height nh.
+  static float advance(int ich, int nh = 21) {
+    zb::zg.nhchar = nh;
+    zb::begin_string();
+    zb::zg.imeasr = 1;
+    zb::zg.xchr = zb::zg.ychr = 0.0f;
+    zb::alfcha(ich);
+    zb::zg.imeasr = 0;
+    return zb::zg.xchr;
+  }
+};
+
+}  // namespace zbt
