@@ -68,8 +68,8 @@ module zorbel
       real, dimension(*), intent(in) :: xray
       real, dimension(*), intent(in) :: yray
       integer, intent(in) :: n
-      real, dimension(*), intent(inout) :: xpray
-      real, dimension(*), intent(inout) :: ypray
+      real, dimension(*) :: xpray
+      real, dimension(*) :: ypray
       integer, intent(in) :: np
     end subroutine bezier
     subroutine center()
@@ -100,9 +100,9 @@ module zorbel
       real, intent(in) :: y2
       real, intent(in) :: x3
       real, intent(in) :: y3
-      real, intent(inout) :: xm
-      real, intent(inout) :: ym
-      real, intent(inout) :: r
+      real :: xm
+      real :: ym
+      real :: r
     end subroutine circ3p
     subroutine circle(nx, ny, nr)
       integer, intent(in) :: nx
@@ -260,42 +260,42 @@ module zorbel
     end subroutine fixspc
     subroutine gbyt03(iv, i1, i2, i3)
       integer, intent(in) :: iv
-      integer, intent(inout) :: i1
-      integer, intent(inout) :: i2
-      integer, intent(inout) :: i3
+      integer :: i1
+      integer :: i2
+      integer :: i3
     end subroutine gbyt03
     subroutine gcspec(idx, iflag)
-      integer, intent(inout) :: idx
-      integer, intent(inout) :: iflag
+      integer :: idx
+      integer :: iflag
     end subroutine gcspec
     subroutine getalf(c)
       character(len=*), intent(inout) :: c
     end subroutine getalf
     subroutine getclp(nx, ny, nw, nh)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
-      integer, intent(inout) :: nw
-      integer, intent(inout) :: nh
+      integer :: nx
+      integer :: ny
+      integer :: nw
+      integer :: nh
     end subroutine getclp
     subroutine getclr(iclr)
-      integer, intent(inout) :: iclr
+      integer :: iclr
     end subroutine getclr
     subroutine getdig(n1, n2, n3)
-      integer, intent(inout) :: n1
-      integer, intent(inout) :: n2
-      integer, intent(inout) :: n3
+      integer :: n1
+      integer :: n2
+      integer :: n3
     end subroutine getdig
     subroutine getfil(c)
       character(len=*), intent(inout) :: c
     end subroutine getfil
     subroutine gethnm(nh)
-      integer, intent(inout) :: nh
+      integer :: nh
     end subroutine gethnm
     subroutine getind(i, xr, xg, xb)
       integer, intent(in) :: i
-      real, intent(inout) :: xr
-      real, intent(inout) :: xg
-      real, intent(inout) :: xb
+      real :: xr
+      real :: xg
+      real :: xb
     end subroutine getind
     subroutine getlab(cx, cy, cz)
       character(len=*), intent(inout) :: cx
@@ -303,76 +303,76 @@ module zorbel
       character(len=*), intent(inout) :: cz
     end subroutine getlab
     subroutine getlen(nx, ny, nz)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
-      integer, intent(inout) :: nz
+      integer :: nx
+      integer :: ny
+      integer :: nz
     end subroutine getlen
     subroutine getlev(nlev)
-      integer, intent(inout) :: nlev
+      integer :: nlev
     end subroutine getlev
     subroutine getlin(nw)
-      integer, intent(inout) :: nw
+      integer :: nw
     end subroutine getlin
     subroutine getmfl(c)
       character(len=*), intent(inout) :: c
     end subroutine getmfl
     subroutine getor(nx, ny)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
+      integer :: nx
+      integer :: ny
     end subroutine getor
     subroutine getpag(nx, ny)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
+      integer :: nx
+      integer :: ny
     end subroutine getpag
     subroutine getpat(ipat)
-      integer, intent(inout) :: ipat
+      integer :: ipat
     end subroutine getpat
     subroutine getpos(nx, ny)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
+      integer :: nx
+      integer :: ny
     end subroutine getpos
     subroutine getran(nlow, nhigh)
-      integer, intent(inout) :: nlow
-      integer, intent(inout) :: nhigh
+      integer :: nlow
+      integer :: nhigh
     end subroutine getran
     subroutine getrgb(xr, xg, xb)
-      real, intent(inout) :: xr
-      real, intent(inout) :: xg
-      real, intent(inout) :: xb
+      real :: xr
+      real :: xg
+      real :: xb
     end subroutine getrgb
     subroutine getscl(nx, ny, nz)
-      integer, intent(inout) :: nx
-      integer, intent(inout) :: ny
-      integer, intent(inout) :: nz
+      integer :: nx
+      integer :: ny
+      integer :: nz
     end subroutine getscl
     subroutine getshf(cnat, cshf)
       character(len=*), intent(in) :: cnat
       character(len=*), intent(inout) :: cshf
     end subroutine getshf
     subroutine getsp1(n1, n2, n3)
-      integer, intent(inout) :: n1
-      integer, intent(inout) :: n2
-      integer, intent(inout) :: n3
+      integer :: n1
+      integer :: n2
+      integer :: n3
     end subroutine getsp1
     subroutine getsp2(n1, n2, n3)
-      integer, intent(inout) :: n1
-      integer, intent(inout) :: n2
-      integer, intent(inout) :: n3
+      integer :: n1
+      integer :: n2
+      integer :: n3
     end subroutine getsp2
     subroutine gettcl(nmaj, nmin)
-      integer, intent(inout) :: nmaj
-      integer, intent(inout) :: nmin
+      integer :: nmaj
+      integer :: nmin
     end subroutine gettcl
     subroutine gettic(n1, n2, n3)
-      integer, intent(inout) :: n1
-      integer, intent(inout) :: n2
-      integer, intent(inout) :: n3
+      integer :: n1
+      integer :: n2
+      integer :: n3
     end subroutine gettic
     subroutine gettyp(ntyp)
-      integer, intent(inout) :: ntyp
+      integer :: ntyp
     end subroutine gettyp
     subroutine getuni(nu)
-      integer, intent(inout) :: nu
+      integer :: nu
     end subroutine getuni
     subroutine getvlt(c)
       character(len=*), intent(inout) :: c
@@ -391,7 +391,7 @@ module zorbel
       character(len=*), intent(in) :: calph
       character(len=*), intent(inout) :: cstr1
       character(len=*), intent(inout) :: cstr2
-      integer, intent(inout) :: n
+      integer :: n
     end subroutine gmxalf
     subroutine gothic()
     end subroutine gothic
@@ -399,14 +399,14 @@ module zorbel
       integer, intent(in) :: ngrace
     end subroutine grace
     subroutine graf(xa, xe, xor0, xstp, ya, ye, yor, ystp)
-      real, intent(inout) :: xa
-      real, intent(inout) :: xe
-      real, intent(inout) :: xor0
-      real, intent(inout) :: xstp
-      real, intent(inout) :: ya
-      real, intent(inout) :: ye
-      real, intent(inout) :: yor
-      real, intent(inout) :: ystp
+      real :: xa
+      real :: xe
+      real :: xor0
+      real :: xstp
+      real :: ya
+      real :: ye
+      real :: yor
+      real :: ystp
     end subroutine graf
     subroutine gtk12b(ix, iy, c)
       integer, intent(in) :: ix
@@ -415,7 +415,7 @@ module zorbel
     end subroutine gtk12b
     subroutine gusrid(cuser, nl)
       character(len=*), intent(inout) :: cuser
-      integer, intent(inout) :: nl
+      integer :: nl
     end subroutine gusrid
     subroutine height(nh)
       integer, intent(in) :: nh
@@ -433,9 +433,9 @@ module zorbel
       real, intent(in) :: xh
       real, intent(in) :: xs
       real, intent(in) :: xv
-      real, intent(inout) :: xr
-      real, intent(inout) :: xg
-      real, intent(inout) :: xb
+      real :: xr
+      real :: xg
+      real :: xb
     end subroutine hsvrgb
     subroutine hworig(nx, ny)
       integer, intent(in) :: nx
@@ -750,23 +750,23 @@ module zorbel
     end subroutine qqerrfil
     subroutine qqgcod(ich, icode)
       integer, intent(in) :: ich
-      integer, intent(inout) :: icode
+      integer :: icode
     end subroutine qqgcod
     subroutine qqgetenv(cname, cval)
       character(len=*), intent(in) :: cname
       character(len=*), intent(inout) :: cval
     end subroutine qqgetenv
     subroutine qqgidx(idx, ir, ig, ib)
-      integer, intent(inout) :: idx
+      integer :: idx
       integer, intent(in) :: ir
       integer, intent(in) :: ig
       integer, intent(in) :: ib
     end subroutine qqgidx
     subroutine qqgrgb(iclr, xr, xg, xb)
       integer, intent(in) :: iclr
-      real, intent(inout) :: xr
-      real, intent(inout) :: xg
-      real, intent(inout) :: xb
+      real :: xr
+      real :: xg
+      real :: xb
     end subroutine qqgrgb
     subroutine qqmove(x, y)
       real, intent(in) :: x
@@ -776,19 +776,19 @@ module zorbel
       integer, intent(in) :: lun
       character(len=*), intent(in) :: cfil
       integer, intent(in) :: mode
-      integer, intent(inout) :: ierr
+      integer :: ierr
     end subroutine qqopen
     subroutine qqpos2(xu, yu, xp, yp)
       real, intent(in) :: xu
       real, intent(in) :: yu
-      real, intent(inout) :: xp
-      real, intent(inout) :: yp
+      real :: xp
+      real :: yp
     end subroutine qqpos2
     subroutine qqrel2(xu, yu, xp, yp)
       real, intent(in) :: xu
       real, intent(in) :: yu
-      real, intent(inout) :: xp
-      real, intent(inout) :: yp
+      real :: xp
+      real :: yp
     end subroutine qqrel2
     subroutine qqsbuf(cbuf, n)
       character(len=*), intent(in) :: cbuf
@@ -826,9 +826,9 @@ module zorbel
       real, intent(in) :: xr
       real, intent(in) :: xg
       real, intent(in) :: xb
-      real, intent(inout) :: xh
-      real, intent(inout) :: xs
-      real, intent(inout) :: xv
+      real :: xh
+      real :: xs
+      real :: xv
     end subroutine rgbhsv
     subroutine rgtlab()
     end subroutine rgtlab
@@ -1022,8 +1022,8 @@ module zorbel
     end subroutine solid
     subroutine sopnfl(kind, lun, ierr)
       integer, intent(in) :: kind
-      integer, intent(inout) :: lun
-      integer, intent(inout) :: ierr
+      integer :: lun
+      integer :: ierr
     end subroutine sopnfl
     subroutine strsft(c)
       character(len=*), intent(inout) :: c
@@ -1074,8 +1074,8 @@ module zorbel
     subroutine timopt()
     end subroutine timopt
     subroutine trfro2(xray, yray, n, xsin, xcos)
-      real, dimension(*), intent(inout) :: xray
-      real, dimension(*), intent(inout) :: yray
+      real, dimension(*) :: xray
+      real, dimension(*) :: yray
       integer, intent(in) :: n
       real, intent(in) :: xsin
       real, intent(in) :: xcos

@@ -3,7 +3,8 @@
 explicit interfaces) from the ZB_EXPORT wrappers in src/**/*.cpp.
 
 Wrapper conventions read here:
-  const T* x   scalar argument in        T* x     scalar argument in/out
+  const T* x   scalar argument in        T* x     scalar argument out or in/out (no INTENT:
+                                         a literal may be passed where the routine leaves it)
   const T x[]  array in                  T x[]    array in/out
   const char* c / char* c   string; its hidden length is an `int` behind all other arguments
   void (*f)(...)            a routine passed by reference (EXTERNAL in Fortran)
@@ -87,9 +88,9 @@ def f_interface(name, ret, args):
             body.append(f"      external :: {a['name']}")
         else:
             ftype = FTYPE[a['type']]
-            intent = 'in' if a['const'] else 'inout'
             dim = ', dimension(*)' if a['kind'] == 'arr' else ''
-            body.append(f"      {ftype}{dim}, intent({intent}) :: {a['name']}")
+            intent = ', intent(in)' if a['const'] else ''
+            body.append(f"      {ftype}{dim}{intent} :: {a['name']}")
     body.append(f"    end {head.split('(')[0]}")
     return body
 

@@ -38,7 +38,8 @@ TEST_F(PostScript, HeadLineByLine) {
     }
     EXPECT_EQ(lines[i], gold[i]) << "line " << i + 1;
   }
-  EXPECT_EQ(body(lines, kHeadLines), std::vector<std::string>{"showpage "});
+  // resall sets the foreground colour: black on POST.
+  EXPECT_EQ(body(lines, kHeadLines), std::vector<std::string>{"0 0 0 f showpage "});
 }
 
 TEST_F(PostScript, EpsAndBackgrounds) {
@@ -94,7 +95,7 @@ TEST_F(PostScript, MoveAfterMoveIsAOnePointPath) {
     xjdraw(200, 200, 3);
     xjdraw(300, 400, 2);
   });
-  EXPECT_EQ(body(lines, kHeadLines), (std::vector<std::string>{"186 186 u p 371 371 u 743 557 d p showpage "}));
+  EXPECT_EQ(body(lines, kHeadLines), (std::vector<std::string>{"0 0 0 f 186 186 u p 371 371 u 743 557 d p showpage "}));
 }
 
 TEST_F(PostScript, UnturnedPageFlipsY) {
@@ -106,7 +107,7 @@ TEST_F(PostScript, UnturnedPageFlipsY) {
   zorfin();
   const auto lines = zbt::read_lines(zg.cplotfl.str());
   EXPECT_EQ(lines[2], "%%Creator: ZORBEL  9.0 P");
-  EXPECT_EQ(lines.back(), "186 3898 u 186 0 d p showpage ");
+  EXPECT_EQ(lines.back(), "0 0 0 f 186 3898 u 186 0 d p showpage ");
 }
 
 TEST_F(PostScript, RecordsNeverSplitTokens) {
@@ -120,7 +121,7 @@ TEST_F(PostScript, RecordsNeverSplitTokens) {
   qpsbuf(nullptr, -1);
   zorfin();
   const auto lines = body(zbt::read_lines(zg.cplotfl.str()), kHeadLines);
-  EXPECT_EQ(lines, (std::vector<std::string>{"ab ", tok, "cd ef ", "showpage "}));
+  EXPECT_EQ(lines, (std::vector<std::string>{"0 0 0 f ab ", tok, "cd ef ", "showpage "}));
 }
 
 TEST_F(PostScript, BoxColourAndPages) {
@@ -133,7 +134,7 @@ TEST_F(PostScript, BoxColourAndPages) {
   });
   // Tokens are packed by blanks: the column layout of the numbers does not survive.
   EXPECT_EQ(body(lines, kHeadLines + 1), (std::vector<std::string>{
-                                             "128 0 255 f 371 186 743 557 0 255 0 e copypage ",
+                                             "255 255 255 f 128 0 255 f 371 186 743 557 0 255 0 e copypage ",
                                              "%%Page: 1        2 ",
                                              "0 0 3898 5514 0 0 0 e 128 0 255 f 19 19 u 37 37 d p showpage ",
                                          }));
@@ -141,7 +142,7 @@ TEST_F(PostScript, BoxColourAndPages) {
 
 TEST_F(PostScript, BoxOutsideThePageDrawsNothing) {
   const auto lines = session("POST", [] { dbox(3000, 100, 3100, 200, 0); });
-  EXPECT_EQ(body(lines, kHeadLines), std::vector<std::string>{"showpage "});
+  EXPECT_EQ(body(lines, kHeadLines), std::vector<std::string>{"0 0 0 f showpage "});
 }
 
 TEST_F(PostScript, GhostscriptReadsEveryVariant) {

@@ -120,12 +120,12 @@ TEST_F(Warnings, ErrorFileWhenChosen) {
   metafl("POST");
   zorini();
   EXPECT_EQ(zg.lunerr, 17);
-  warnin(9);
+  unit(15);
   EXPECT_EQ(zg.ierrop, 1);
   zorfin();
   EXPECT_EQ(zg.ierrop, 0);
   EXPECT_EQ(zg.lunerr, 6);
-  EXPECT_EQ(zbt::read_lines("mine.err"), std::vector<std::string>{" <<<< Warning   9: Step equal zero in ZORINI!"});
+  EXPECT_EQ(zbt::read_lines("mine.err"), std::vector<std::string>{" <<<< Warning   2: Incorrect parameter in UNIT!   (  15)"});
   const auto lines = take_lines();
   ASSERT_EQ(lines.size(), 9u);
   EXPECT_EQ(lines[5], "  <<  Metafile: zorbel.psc                                        <<");
