@@ -59,7 +59,6 @@ void qqbl01(float x1, float y1, float x2, float y2);    // shield regions, ishie
 void proj3d(float& x, float& y);                         // plane of a 3-D box, ixfpts bit 1
 void btrf01(float& x, float& y);                         // base transformation, ixfpts bit 2
 void qqwext(int code, int value);                        // screen settings; 11..14 clip window
-void qqsvg2(float x, float y, int icode);                // SVG pen; code 6 is a new width
 bool azimuthal_circle_clip();   // maps: an azimuthal map whose picture is clipped to a circle
 
 }  // namespace zb

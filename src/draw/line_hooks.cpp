@@ -32,12 +32,6 @@ namespace zb {
   (void)value;
 }
 
-[[gnu::weak]] void qqsvg2(float x, float y, int icode) {
-  (void)x;
-  (void)y;
-  (void)icode;
-}
-
 [[gnu::weak]] bool azimuthal_circle_clip() { return false; }
 
 }  // namespace zb

@@ -6,6 +6,7 @@
 
 #include "draw/device.h"
 #include "draw/line.h"
+#include "formats/drivers.h"
 #include "frame/frame.h"
 
 namespace zb {
