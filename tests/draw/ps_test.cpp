@@ -3,6 +3,7 @@
 #include <regex>
 #include <sstream>
 
+#include "frame/page.h"
 #include "support/harness.h"
 
 using namespace zb;
@@ -11,9 +12,9 @@ namespace {
 
 class PostScript : public zbt::Fixture {
  protected:
-  std::vector<std::string> session(const char* fmt, void (*draw)() = nullptr, int scr = 4) {
+  std::vector<std::string> session(const char* fmt, void (*draw)() = nullptr, const char* scr = "AUTO") {
     metafl(fmt);
-    zg.iscrset = scr;
+    scrmod(scr);
     zorini();
     if (draw) draw();
     zorfin();
@@ -43,12 +44,12 @@ TEST_F(PostScript, HeadLineByLine) {
 }
 
 TEST_F(PostScript, EpsAndBackgrounds) {
-  struct Case { const char* fmt; int scr; bool background; const char* first; };
+  struct Case { const char* fmt; const char* scr; bool background; const char* first; };
   const Case cases[] = {
-      {"POST", 4, false, "%!PS-Adobe-2.0"},  {"POST", 0, false, "%!PS-Adobe-2.0"},
-      {"EPS", 4, false, "%!PS-Adobe-3.0 EPSF-3.0"}, {"EPS", 0, true, "%!PS-Adobe-3.0 EPSF-3.0"},
-      {"PSCL", 4, true, "%!PS-Adobe-2.0"},  {"PSCL", 2, false, "%!PS-Adobe-2.0"},
-      {"PS", 4, false, "%!PS-Adobe-2.0"},    {"PS", 3, true, "%!PS-Adobe-2.0"},
+      {"POST", "AUTO", false, "%!PS-Adobe-2.0"},  {"POST", "ERASE", false, "%!PS-Adobe-2.0"},
+      {"EPS", "AUTO", false, "%!PS-Adobe-3.0 EPSF-3.0"}, {"EPS", "ERAS", true, "%!PS-Adobe-3.0 EPSF-3.0"},
+      {"PSCL", "AUTO", true, "%!PS-Adobe-2.0"},  {"PSCL", "REVERS", false, "%!PS-Adobe-2.0"},
+      {"PS", "auto", false, "%!PS-Adobe-2.0"},    {"PS", "NORE", true, "%!PS-Adobe-2.0"},
   };
   for (const auto& c : cases) {
     const auto lines = session(c.fmt, nullptr, c.scr);
