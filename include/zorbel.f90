@@ -208,6 +208,13 @@ module zorbel
       integer, intent(in) :: iy
       integer, intent(in) :: icode
     end subroutine dtdraw
+    subroutine dtext(c, nx, ny, nang, nh)
+      character(len=*), intent(in) :: c
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nang
+      integer, intent(in) :: nh
+    end subroutine dtext
     subroutine duplx()
     end subroutine duplx
     subroutine ellips(nx, ny, na, nb)
@@ -248,6 +255,12 @@ module zorbel
       character(len=*), intent(in) :: cnat
       character(len=*), intent(in) :: cshf
     end subroutine eushft
+    subroutine fcha(x, ndig, nlen, c)
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+      integer :: nlen
+      character(len=*), intent(inout) :: c
+    end subroutine fcha
     subroutine ffllin(xpair, ypair)
       real, dimension(*), intent(in) :: xpair
       real, dimension(*), intent(in) :: ypair
@@ -258,6 +271,14 @@ module zorbel
     subroutine fixspc(xfac)
       real, intent(in) :: xfac
     end subroutine fixspc
+    subroutine flen(x, ndig, nlen)
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+      integer :: nlen
+    end subroutine flen
+    subroutine frmess(nfrm)
+      integer, intent(in) :: nfrm
+    end subroutine frmess
     subroutine gbyt03(iv, i1, i2, i3)
       integer, intent(in) :: iv
       integer :: i1
@@ -271,6 +292,9 @@ module zorbel
     subroutine getalf(c)
       character(len=*), intent(inout) :: c
     end subroutine getalf
+    subroutine getang(nang)
+      integer :: nang
+    end subroutine getang
     subroutine getclp(nx, ny, nw, nh)
       integer :: nx
       integer :: ny
@@ -288,6 +312,9 @@ module zorbel
     subroutine getfil(c)
       character(len=*), intent(inout) :: c
     end subroutine getfil
+    subroutine gethgt(nh)
+      integer :: nh
+    end subroutine gethgt
     subroutine gethnm(nh)
       integer :: nh
     end subroutine gethnm
@@ -316,6 +343,10 @@ module zorbel
     subroutine getmfl(c)
       character(len=*), intent(inout) :: c
     end subroutine getmfl
+    subroutine getmix(cchar, cmix)
+      character(len=*), intent(inout) :: cchar
+      character(len=*), intent(in) :: cmix
+    end subroutine getmix
     subroutine getor(nx, ny)
       integer :: nx
       integer :: ny
@@ -377,6 +408,13 @@ module zorbel
     subroutine getvlt(c)
       character(len=*), intent(inout) :: c
     end subroutine getvlt
+    subroutine gexpno(x, ndig, nlen, c, iopt)
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+      integer :: nlen
+      character(len=*), intent(inout) :: c
+      integer, intent(in) :: iopt
+    end subroutine gexpno
     subroutine gfilnn(c)
       character(len=*), intent(inout) :: c
     end subroutine gfilnn
@@ -393,6 +431,11 @@ module zorbel
       character(len=*), intent(inout) :: cstr2
       integer :: n
     end subroutine gmxalf
+    subroutine gnustr(c, nlen, cmode)
+      character(len=*), intent(inout) :: c
+      integer :: nlen
+      character(len=*), intent(in) :: cmode
+    end subroutine gnustr
     subroutine gothic()
     end subroutine gothic
     subroutine grace(ngrace)
@@ -459,8 +502,17 @@ module zorbel
     end subroutine inipsc
     subroutine inityp()
     end subroutine inityp
+    subroutine inscmd(c, n)
+      character(len=*), intent(in) :: c
+      integer, intent(in) :: n
+    end subroutine inscmd
     subroutine intax()
     end subroutine intax
+    subroutine intcha(n, nlen, c)
+      integer, intent(in) :: n
+      integer :: nlen
+      character(len=*), intent(inout) :: c
+    end subroutine intcha
     function intrgb(xr, xg, xb)
       integer :: intrgb
       real, intent(in) :: xr
@@ -580,6 +632,9 @@ module zorbel
       integer, intent(in) :: ix2
       integer, intent(in) :: iy2
     end subroutine lineqq
+    subroutine linesp(xfac)
+      real, intent(in) :: xfac
+    end subroutine linesp
     subroutine lintyp(ntyp)
       integer, intent(in) :: ntyp
     end subroutine lintyp
@@ -609,6 +664,8 @@ module zorbel
     subroutine metafl(c)
       character(len=*), intent(in) :: c
     end subroutine metafl
+    subroutine mixalf()
+    end subroutine mixalf
     subroutine mylab(cstr, itick, cax)
       character(len=*), intent(in) :: cstr
       integer, intent(in) :: itick
@@ -660,12 +717,19 @@ module zorbel
     subroutine neglog(x)
       real, intent(in) :: x
     end subroutine neglog
+    subroutine newmix()
+    end subroutine newmix
     subroutine newpag()
     end subroutine newpag
     function nlmess(c)
       integer :: nlmess
       character(len=*), intent(in) :: c
     end function nlmess
+    function nlnumb(x, ndig)
+      integer :: nlnumb
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+    end function nlnumb
     subroutine noarln()
     end subroutine noarln
     subroutine nochek()
@@ -683,6 +747,15 @@ module zorbel
       integer, intent(in) :: nx
       integer, intent(in) :: ny
     end subroutine number
+    subroutine numfmt(c)
+      character(len=*), intent(in) :: c
+    end subroutine numfmt
+    subroutine numode(cdec, cgrp, csign, cfix)
+      character(len=*), intent(in) :: cdec
+      character(len=*), intent(in) :: cgrp
+      character(len=*), intent(in) :: csign
+      character(len=*), intent(in) :: cfix
+    end subroutine numode
     function nxposn(x)
       integer :: nxposn
       real, intent(in) :: x
@@ -762,12 +835,23 @@ module zorbel
       integer, intent(in) :: ig
       integer, intent(in) :: ib
     end subroutine qqgidx
+    subroutine qqgmsg(c, nheight, ndepth, nlen)
+      character(len=*), intent(in) :: c
+      integer :: nheight
+      integer :: ndepth
+      integer :: nlen
+    end subroutine qqgmsg
     subroutine qqgrgb(iclr, xr, xg, xb)
       integer, intent(in) :: iclr
       real :: xr
       real :: xg
       real :: xb
     end subroutine qqgrgb
+    subroutine qqmess(c, nx, ny)
+      character(len=*), intent(in) :: c
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+    end subroutine qqmess
     subroutine qqmove(x, y)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -867,6 +951,17 @@ module zorbel
       real, intent(in) :: x2
       real, intent(in) :: y2
     end subroutine rline
+    subroutine rlmess(c, x, y)
+      character(len=*), intent(in) :: c
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine rlmess
+    subroutine rlnumb(x, ndig, xp, yp)
+      real, intent(in) :: x
+      integer, intent(in) :: ndig
+      real, intent(in) :: xp
+      real, intent(in) :: yp
+    end subroutine rlnumb
     subroutine rlpie(xm, ym, r, alpha, beta)
       real, intent(in) :: xm
       real, intent(in) :: ym
@@ -967,11 +1062,17 @@ module zorbel
     end subroutine sendbf
     subroutine serif()
     end subroutine serif
+    subroutine setbas(xfac)
+      real, intent(in) :: xfac
+    end subroutine setbas
     subroutine setclp()
     end subroutine setclp
     subroutine setclr(iclr)
       integer, intent(in) :: iclr
     end subroutine setclr
+    subroutine setexp(xfac)
+      real, intent(in) :: xfac
+    end subroutine setexp
     subroutine setfil(c)
       character(len=*), intent(in) :: c
     end subroutine setfil
@@ -987,6 +1088,10 @@ module zorbel
       real, intent(in) :: xg
       real, intent(in) :: xb
     end subroutine setind
+    subroutine setmix(cchar, cmix)
+      character(len=*), intent(in) :: cchar
+      character(len=*), intent(in) :: cmix
+    end subroutine setmix
     subroutine setpag(c)
       character(len=*), intent(in) :: c
     end subroutine setpag
@@ -1012,6 +1117,11 @@ module zorbel
     end subroutine shwvlt
     subroutine simplx()
     end subroutine simplx
+    subroutine smixal(ich, ialf, iflag)
+      integer, intent(in) :: ich
+      integer :: ialf
+      integer :: iflag
+    end subroutine smixal
     subroutine smxalf(calph, cstr1, cstr2, n)
       character(len=*), intent(in) :: calph
       character(len=*), intent(in) :: cstr1
@@ -1090,6 +1200,9 @@ module zorbel
       real :: trmlen
       character(len=*), intent(in) :: c
     end function trmlen
+    subroutine txtjus(c)
+      character(len=*), intent(in) :: c
+    end subroutine txtjus
     subroutine unit(nu)
       integer, intent(in) :: nu
     end subroutine unit

@@ -44,15 +44,6 @@ int tick_part(std::size_t ax) {
   return 0;
 }
 
-// Length of a string at another height than the current one.
-int measure_at(std::string_view s, int nh) {
-  const int keep = zg.nhchar;
-  zg.nhchar = nh;
-  const int l = nlmess(s);
-  zg.nhchar = keep;
-  return l;
-}
-
 // Draws the labels; returns the room they take across the axis.
 int labelx(float xa, float xe, float xor_, float xstp, int nlen, int nx, int ny, int idir,
            int ilog, int iaxis) {
@@ -70,6 +61,7 @@ int labelx(float xa, float xe, float xor_, float xstp, int nlen, int nx, int ny,
   const int nmax = label_room(xa, xe, xor_, xstp, ilog, iaxis);
   const float q = cpow ? float(nh) - f * float(nh) / 2.0f : float(nh) / 2.0f;
   const int raised_at = trunc_int(float(d) + (f - 1.0f) * float(nh));
+  const ForcedMix mix(forced_mix(ilog, iaxis));
   for_each_label(xe, xor_, xstp, iaxis, [&](int i, float v) {
     const std::string text = glabxy(v, i, ilog, iaxis);
     const int l = nlmess(text);
@@ -131,8 +123,9 @@ void namex(std::string_view cname, int nlen, int nx, int ny, int nmax, int idir,
   const std::string_view name = cname.substr(0, n);
   const std::size_t ax = std::size_t(iaxis - 1);
   const int d = zg.isgdir * (zg.nnamds[ax] + tick_part(ax) + (zg.ilabtp[ax] != 0 ? zg.nlabds[ax] : 0));
-  const int hn = zg.nhname, h = hn, e = 0;
-  const int l = measure_at(name, hn);
+  const int hn = zg.nhname;
+  int h = hn, e = 0, l = 0;
+  measure_text(name, hn, h, e, l);
   int off = (nlen - l) / 2;
   if (zg.inamjs[ax] == 1) off = 0;
   else if (zg.inamjs[ax] == 2) off = nlen - l;

@@ -12,6 +12,9 @@ bool raised_label(int ilog, int iaxis);
 bool centred_power(int ilog, int iaxis);
 // Height of raised text as a fraction of the character height: shift plus exponent height.
 float raised_factor();
+// Labels whose texts hold control characters (powers, "EXP", maps): they are measured and
+// drawn with the control characters on and formulas off.
+bool forced_mix(int ilog, int iaxis);
 // True inside a crossed or polar axis system.
 bool crossed_system();
 // Calls fn(i, v) for each label of an axis that labelx draws, with the value v of label i.

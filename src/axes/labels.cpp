@@ -1,5 +1,6 @@
-// Texts of axis labels: fixed and exponent notation of numbers, powers of ten, degrees,
-// times and user labels; which labels an axis has, and how much room they take.
+// Texts of axis labels: fixed and exponent notation of numbers (with the decimal sign, groups
+// and sign of numode), powers of ten, degrees, times and user labels; which labels an axis
+// has, and how much room they take.
 #include <cmath>
 
 #include "axes/axes.h"
@@ -51,7 +52,7 @@ std::string time_label(float v, int type) {
 
 std::string map_label(float v, int type, int iaxis) {
   const std::size_t ax = std::size_t(iaxis - 1);
-  std::string t = fixed_label(type == kDmap ? v : std::fabs(v), zg.ilabdg[ax]);
+  std::string t = apply_numode(fixed_label(type == kDmap ? v : std::fabs(v), zg.ilabdg[ax]));
   t += label_exp_char();
   t += 'o';
   t += label_reset_char();
@@ -70,8 +71,8 @@ std::string cut32(std::string s) {
 
 }  // namespace
 
-char label_exp_char() { return '['; }
-char label_reset_char() { return '$'; }
+char label_exp_char() { return zg.ctlchr.c[0]; }
+char label_reset_char() { return zg.ctlchr.c[2]; }
 
 int label_width(float x, int ndig) { return int(fixed_label(x, ndig).size()); }
 
@@ -114,7 +115,7 @@ std::string exp_label(float x, int ndig, int iopt) {
     m /= 10.0f;
     ++e;
   }
-  std::string s = fixed_label(x < 0.0f ? -m : m, ndig);
+  std::string s = apply_numode(fixed_label(x < 0.0f ? -m : m, ndig));
   if (iopt == 1) {
     s += "*10";
     s += label_exp_char();
@@ -139,7 +140,12 @@ bool centred_power(int ilog, int iaxis) {
   return power_label(ilog, iaxis) && zg.ilabct[std::size_t(iaxis - 1)] == 1;
 }
 
-float raised_factor() { return 0.6f + 0.8f; }
+float raised_factor() { return zg.xbasfac + zg.xexpfac; }
+
+bool forced_mix(int ilog, int iaxis) {
+  const int type = zg.ilabtp[std::size_t(iaxis - 1)];
+  return power_label(ilog, iaxis) || type == kExp || type == kMap || type == kDmap || type == kLmap;
+}
 
 std::string glabxy(float v, int i, int ilog, int iaxis) {
   if (iaxis < 1 || iaxis > 3) return "";
@@ -150,15 +156,15 @@ std::string glabxy(float v, int i, int ilog, int iaxis) {
     if (zg.ilabst[ax] == 1) {
       std::string s = "10";
       s += label_exp_char();
-      s += fixed_label(v, dg);
+      s += apply_numode(fixed_label(v, dg));
       s += label_reset_char();
       return cut32(s);
     }
-    if (zg.ilabst[ax] == 3) return cut32(fixed_label(v, dg));
+    if (zg.ilabst[ax] == 3) return cut32(apply_numode(fixed_label(v, dg)));
   }
   const float value = ilog != 0 ? std::pow(10.0f, v) : v;
   switch (type) {
-    case kFloa: case kLog: case kClog: case kElog: return cut32(fixed_label(value, dg));
+    case kFloa: case kLog: case kClog: case kElog: return cut32(apply_numode(fixed_label(value, dg)));
     case kExp: return cut32(exp_label(value, dg, 1));
     case kFexp: return cut32(exp_label(value, dg, 2));
     case kMap: case kDmap: case kLmap: return cut32(map_label(v, type, iaxis));
@@ -224,6 +230,7 @@ int maxnuy(float /*xa*/, float xe, float xor_, float xstp, int ilog, int iaxis) 
   if (iaxis < 1 || iaxis > 3) return 0;
   int widest = 0;
   const bool crossed = crossed_system();
+  const ForcedMix mix(forced_mix(ilog, iaxis));
   for_each_label(xe, xor_, xstp, iaxis, [&](int i, float v) {
     if (crossed && v < 0.0f) return;
     widest = std::max(widest, nlmess(glabxy(v, i, ilog, iaxis)));

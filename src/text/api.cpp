@@ -1,5 +1,5 @@
-// Exported routines of text: font sets, character settings, the internal routines of the stroke
-// alphabets, and the string routines that draw with them.
+// Exported routines of text: font sets, character settings and the internal routines of the
+// stroke alphabets. Strings and numbers are in api_strings.cpp.
 #include "frame/frame.h"
 #include "text/text.h"
 
@@ -48,9 +48,3 @@ ZB_EXPORT void salfpa_(const int* ialf) noexcept { salfpa(*ialf); }
 ZB_EXPORT void gcspec_(int* idx, int* iflag) noexcept { gcspec(*idx, *iflag); }
 ZB_EXPORT void qqgcod_(const int* ich, int* icode) noexcept { *icode = qqgcod(*ich); }
 ZB_EXPORT void strsft_(char* c, int lc) noexcept { if (c == nullptr || lc <= 0) return; std::string s(c, std::size_t(lc)); strsft(s); fput(c, lc, s); }
-
-ZB_EXPORT void messag_(const char* c, const int* nx, const int* ny, int lc) noexcept { messag(fstr(c, lc), *nx, *ny); }
-ZB_EXPORT void number_(const float* x, const int* ndig, const int* nx, const int* ny) noexcept { number(*x, *ndig, *nx, *ny); }
-ZB_EXPORT int nlmess_(const char* c, int lc) noexcept { return nlmess(fstr(c, lc)); }
-ZB_EXPORT void height_(const int* nh) noexcept { height(*nh); }
-ZB_EXPORT void angle_(const int* nang) noexcept { angle(*nang); }

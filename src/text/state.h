@@ -70,6 +70,23 @@ struct TextState {
   float xcscl = 0.0f, ycscl = 0.0f, xcgap = 0.0f;
   int ishear = 0;                  // the character in hand is sheared
 
+  // Strings and numbers: justification, control characters, exponents, frames, number text.
+  int ijust = 0;                   // txtjus: 0 left, 1 centred, 2 right
+  int imixexp = 0;                 // mixalf: control characters for exponents and indices active
+  FStr<5> ctlchr{"[]$/\\"};        // exponent, index, reset, legend line, TeX command
+  float xbasfac = 0.6f;            // setbas: shift of exponents and indices / height
+  float xexpfac = 0.8f;            // setexp: height of exponents and indices / height
+  float xlinsp = 1.5f;             // linesp: line spacing, also the margin of text frames
+  int nfrmess = 0;                 // frmess: thickness of the frame around strings
+  int inumfmt = 0;                 // numfmt: 0 FLOA, 1 EXP, 2 FEXP, 3 LOG
+  FStr<4> cnumod{".000"};          // numode: decimal sign, group separator, sign, equal digits
+  int itexoff = 0;                 // formulas are off while axis labels are drawn
+  FStr<256> ctxbuf;                // working copy of the string being drawn
+  // Working set of the string being drawn (besides the one of the alphabets above).
+  int istrclr = 0;                 // colour at the start of the string
+  int iexpfl = 0, iindfl = 0;      // the string raised an exponent, lowered an index
+  std::array<float, 20> xtab{};    // tabs of the instruction alphabet, along the baseline
+
   bool operator==(const TextState&) const = default;
 };
 
