@@ -34,7 +34,7 @@ void rounded_digits(float ax, int nd, std::string& ip, std::string& fp) {
     return;
   }
   const float scaled = nd <= 38 ? ax * power10(nd) : INFINITY;
-  if (scaled < 16777216.0f) {
+  if (scaled < 8388608.0f) {   // below 2^23 the half that rounds is still held exactly
     const auto m = static_cast<unsigned long long>(std::trunc(scaled + 0.5f));
     std::string d = std::to_string(m);
     if (d.size() < std::size_t(nd) + 1) d.insert(0, std::size_t(nd) + 1 - d.size(), '0');
