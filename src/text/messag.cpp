@@ -190,6 +190,7 @@ void begin_string() {
   zg.ninsbuf = 0;
   zg.cinsbuf = "";
   zg.iexpfl = zg.iindfl = 0;
+  zg.xcgap = 0.0f;   // no gap before the first character of this string
 }
 
 void qqmess(std::string_view cstr, int nx, int ny) {
