@@ -418,6 +418,10 @@ module zorbel
     subroutine gfilnn(c)
       character(len=*), intent(inout) :: c
     end subroutine gfilnn
+    subroutine gifmod(copt, ckey)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: ckey
+    end subroutine gifmod
     subroutine gkwfa(n, xray, yray, xstep, span)
       integer, intent(in) :: n
       real, dimension(*), intent(in) :: xray
@@ -491,6 +495,32 @@ module zorbel
     subroutine iangle(ndeg)
       integer, intent(in) :: ndeg
     end subroutine iangle
+    subroutine imgbox(nx, ny, nw, nh)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine imgbox
+    subroutine imgclp(nx, ny, nw, nh)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine imgclp
+    subroutine imgfin()
+    end subroutine imgfin
+    subroutine imgfmt(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine imgfmt
+    subroutine imgini()
+    end subroutine imgini
+    subroutine imgmod(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine imgmod
+    subroutine imgsiz(nw, nh)
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine imgsiz
     function indrgb(xr, xg, xb)
       integer :: indrgb
       real, intent(in) :: xr
@@ -797,6 +827,10 @@ module zorbel
       real, intent(in) :: alpha
       real, intent(in) :: beta
     end subroutine pie
+    subroutine pngmod(copt, ckey)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: ckey
+    end subroutine pngmod
     subroutine point(nx, ny, nb, nh, ncol)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -835,6 +869,12 @@ module zorbel
       integer, intent(in) :: ig
       integer, intent(in) :: ib
     end subroutine qqgidx
+    function qqgind(ir, ig, ib)
+      integer :: qqgind
+      integer, intent(in) :: ir
+      integer, intent(in) :: ig
+      integer, intent(in) :: ib
+    end function qqgind
     subroutine qqgmsg(c, nheight, ndepth, nlen)
       character(len=*), intent(in) :: c
       integer :: nheight
@@ -886,6 +926,48 @@ module zorbel
     end subroutine qqserr
     subroutine qqstrk()
     end subroutine qqstrk
+    subroutine qqvclr(iclr)
+      integer, intent(in) :: iclr
+    end subroutine qqvclr
+    subroutine qqvers()
+    end subroutine qqvers
+    subroutine qqvfll(ix1, iy1, ix2, iy2, iclr)
+      integer, intent(in) :: ix1
+      integer, intent(in) :: iy1
+      integer, intent(in) :: ix2
+      integer, intent(in) :: iy2
+      integer, intent(in) :: iclr
+    end subroutine qqvfll
+    subroutine qqvftr(x, y, iclr)
+      integer, dimension(*), intent(in) :: x
+      integer, dimension(*), intent(in) :: y
+      integer, intent(in) :: iclr
+    end subroutine qqvftr
+    subroutine qqvlin(ix1, iy1, ix2, iy2)
+      integer, intent(in) :: ix1
+      integer, intent(in) :: iy1
+      integer, intent(in) :: ix2
+      integer, intent(in) :: iy2
+    end subroutine qqvlin
+    subroutine qqvrpx(ix, iy, iclr, iflag)
+      integer, intent(in) :: ix
+      integer, intent(in) :: iy
+      integer :: iclr
+      integer, intent(in) :: iflag
+    end subroutine qqvrpx
+    subroutine qqvwpx(ix, iy, iclr)
+      integer, intent(in) :: ix
+      integer, intent(in) :: iy
+      integer, intent(in) :: iclr
+    end subroutine qqvwpx
+    subroutine rbfpng(cbuf, nmax, nlen)
+      character, dimension(*) :: cbuf
+      integer, intent(in) :: nmax
+      integer :: nlen
+    end subroutine rbfpng
+    subroutine rbmp(cfil)
+      character(len=*), intent(in) :: cfil
+    end subroutine rbmp
     subroutine recfll(nx, ny, nw, nh, ncol)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -914,6 +996,9 @@ module zorbel
       real :: xs
       real :: xv
     end subroutine rgbhsv
+    subroutine rgif(cfil)
+      character(len=*), intent(in) :: cfil
+    end subroutine rgif
     subroutine rgtlab()
     end subroutine rgtlab
     subroutine rlarc(xm, ym, xa, xb, alpha, beta, theta)
@@ -1028,6 +1113,15 @@ module zorbel
       integer, intent(in) :: nh
       integer, intent(in) :: iopt
     end subroutine rndrec
+    subroutine rpng(cfil)
+      character(len=*), intent(in) :: cfil
+    end subroutine rpng
+    subroutine rppm(cfil)
+      character(len=*), intent(in) :: cfil
+    end subroutine rppm
+    subroutine rtiff(cfil)
+      character(len=*), intent(in) :: cfil
+    end subroutine rtiff
     subroutine rvynam()
     end subroutine rvynam
     subroutine salfpa(ialf)
@@ -1181,6 +1275,11 @@ module zorbel
       character(len=*), intent(in) :: copt
       character(len=*), intent(in) :: cax
     end subroutine ticpos
+    subroutine tifmod(n, cunit, ckey)
+      integer, intent(in) :: n
+      character(len=*), intent(in) :: cunit
+      character(len=*), intent(in) :: ckey
+    end subroutine tifmod
     subroutine timopt()
     end subroutine timopt
     subroutine trfro2(xray, yray, n, xsin, xcos)
@@ -1241,6 +1340,16 @@ module zorbel
       integer, intent(in) :: nw
       real, intent(in) :: a
     end subroutine windbr
+    subroutine window(nx, ny, nw, nh)
+      integer, intent(in) :: nx
+      integer, intent(in) :: ny
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine window
+    subroutine winsiz(nw, nh)
+      integer, intent(in) :: nw
+      integer, intent(in) :: nh
+    end subroutine winsiz
     subroutine xaxis(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
       real, intent(in) :: xa
       real, intent(in) :: xe

@@ -204,7 +204,7 @@ void zori03() {
   zg.ixlast = zg.iylast = 0;
   zg.ipencd = 0;
   if (d == 211 || d == 221 || is_ps(d) || d == 511 || d == 701 || d == 801 || d == 605 ||
-      (is_raster(d) && zg.imgfmt == 1))
+      (is_raster(d) && zg.imgrgb == 1))
     zg.ndepth = 24;
   if (is_ps(d)) {
     inipsc(15);

@@ -36,9 +36,9 @@ void first_call_init() {
   zg.ixidkd = 0;
   zg.icgmbg = zg.icgmpc = 0;
   zg.icgmvr = 1;
-  zg.imgfmt = zg.iwmfmd = zg.ipngmd = zg.igifmd = 0;
+  zg.imgrgb = zg.iwmfmd = zg.ipngtr = zg.igiftr = 0;
   zg.ipdfmd = 1;
-  zg.itifrs = 100;
+  zg.ntifres = 100;
   zg.itifun = 2;
 }
 

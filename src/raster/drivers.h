@@ -1,5 +1,5 @@
 // Entry points of the screen window and the virtual raster as the device layer calls them.
-// Parts not built yet answer with the no-ops of raster/pending.cpp.
+// The screen's entries answer with the no-ops of raster/pending.cpp until its driver comes.
 #pragma once
 
 namespace zb {
@@ -14,6 +14,9 @@ void qqwers();                                            // clears in the curre
 void qqwsbf();                                            // makes the drawing visible
 void qqwnpg();                                            // new page
 void qqwfin(int imode);                                   // end of session
+int qqwimg(int imode);                                    // opens (0) or closes (1) the image; 0 ok
+void qqwrdr(unsigned char* buf, int ix, int iy, int nw, int nh, int iflag);   // reads pixels
+void qqwfil(const char* path, int iread, int& ierr);      // Bitmap file of the screen
 
 // Virtual raster.
 void zori_raster();                                       // allocates the store
