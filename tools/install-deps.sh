@@ -5,6 +5,7 @@ pkgs=(
   g++ cmake ninja-build gfortran python3 zlib1g-dev libgtest-dev
   libfreetype-dev
   ghostscript
+  pngcheck giflib-tools libtiff-tools netpbm
   hershey-fonts-data fonts-dejavu-core fonts-liberation fonts-freefont-ttf
   fonts-liberation2
 )

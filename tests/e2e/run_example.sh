@@ -14,6 +14,31 @@ for f in *; do
       gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=nullpage "$f" > gs.log 2>&1 || { cat gs.log; echo "ghostscript rejects $f"; exit 1; }
       grep -q 'Error' gs.log && { cat gs.log; echo "ghostscript reports an error in $f"; exit 1; }
       gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=png16m -r40 -o "${f}.png" "$f" > /dev/null ;;
+    *.png)
+      command -v pngcheck > /dev/null && command -v pngtopnm > /dev/null || { echo "no PNG reader (pngcheck, netpbm)"; exit 1; }
+      pngcheck -q "$f" > png.log 2>&1 || { cat png.log; echo "pngcheck rejects $f"; exit 1; }
+      pngtopnm "$f" > /dev/null 2> png.log || { cat png.log; echo "pngtopnm cannot decode $f"; exit 1; } ;;
+    *.gif)
+      command -v giftext > /dev/null && command -v giftopnm > /dev/null || { echo "no GIF reader (giflib-tools, netpbm)"; exit 1; }
+      giftext "$f" > gif.log 2>&1 || { cat gif.log; echo "giftext rejects $f"; exit 1; }
+      grep -q 'GIF file terminated normally' gif.log || { cat gif.log; echo "giftext: $f ends early"; exit 1; }
+      giftopnm "$f" > /dev/null 2> gif.log || { cat gif.log; echo "giftopnm cannot decode $f"; exit 1; } ;;
+    *.tif)
+      command -v tiffinfo > /dev/null && command -v tifftopnm > /dev/null || { echo "no TIFF reader (libtiff-tools, netpbm)"; exit 1; }
+      tiffinfo -D "$f" > tif.log 2>&1 || { cat tif.log; echo "tiffinfo rejects $f"; exit 1; }
+      grep -qi 'error\|warning' tif.log && { cat tif.log; echo "tiffinfo complains about $f"; exit 1; }
+      tifftopnm "$f" > /dev/null 2> tif.log || { cat tif.log; echo "tifftopnm cannot decode $f"; exit 1; } ;;
+    *.bmp)
+      command -v bmptopnm > /dev/null || { echo "no BMP reader (netpbm)"; exit 1; }
+      bmptopnm "$f" > /dev/null 2> bmp.log || { cat bmp.log; echo "bmptopnm cannot decode $f"; exit 1; } ;;
+    *.ppm)
+      command -v ppmtoppm > /dev/null || { echo "no PPM reader (netpbm)"; exit 1; }
+      ppmtoppm < "$f" > /dev/null 2> ppm.log || { cat ppm.log; echo "ppmtoppm cannot read $f"; exit 1; } ;;
+    *.img)
+      # The library's own Bitmap file: an 80-byte head, then height rows of the given bytes.
+      read -r magic _ _ w h _ rowbytes _ < <(head -c 80 "$f"; echo)
+      [ "$magic" = '!Bitmap' ] || { echo "$f has no Bitmap head"; exit 1; }
+      [ "$(stat -c %s "$f")" -eq $((80 + rowbytes * h)) ] || { echo "$f: size is not 80 + $rowbytes x $h"; exit 1; } ;;
     *.met|*.err|*.txt|*.png) ;;
     *) echo "no reader for $f"; exit 1 ;;
   esac
