@@ -39,6 +39,8 @@ module zorbel
       character(len=*), intent(in) :: copt
       character(len=*), intent(in) :: cax
     end subroutine axends
+    subroutine axgit()
+    end subroutine axgit
     subroutine axsbgd(nclr)
       integer, intent(in) :: nclr
     end subroutine axsbgd
@@ -61,6 +63,9 @@ module zorbel
     subroutine axstyp(copt)
       character(len=*), intent(in) :: copt
     end subroutine axstyp
+    subroutine barwth(x)
+      real, intent(in) :: x
+    end subroutine barwth
     subroutine basalf(c)
       character(len=*), intent(in) :: c
     end subroutine basalf
@@ -72,6 +77,8 @@ module zorbel
       real, dimension(*) :: ypray
       integer, intent(in) :: np
     end subroutine bezier
+    subroutine box2d()
+    end subroutine box2d
     subroutine center()
     end subroutine center
     subroutine chaang(angle)
@@ -89,6 +96,9 @@ module zorbel
     subroutine chkini(c)
       character(len=*), intent(in) :: c
     end subroutine chkini
+    subroutine chncrv(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine chncrv
     subroutine chndot()
     end subroutine chndot
     subroutine chndsh()
@@ -156,6 +166,13 @@ module zorbel
       real, intent(in) :: x
       real, intent(in) :: y
     end subroutine connqq
+    subroutine cross()
+    end subroutine cross
+    subroutine curve(xray, yray, n)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+    end subroutine curve
     subroutine dareaf(xray, yray, n)
       real, dimension(*), intent(in) :: xray
       real, dimension(*), intent(in) :: yray
@@ -276,9 +293,18 @@ module zorbel
       integer, intent(in) :: ndig
       integer :: nlen
     end subroutine flen
+    subroutine frame(n)
+      integer, intent(in) :: n
+    end subroutine frame
+    subroutine frmclr(iclr)
+      integer, intent(in) :: iclr
+    end subroutine frmclr
     subroutine frmess(nfrm)
       integer, intent(in) :: nfrm
     end subroutine frmess
+    subroutine gapcrv(xgap)
+      real, intent(in) :: xgap
+    end subroutine gapcrv
     subroutine gbyt03(iv, i1, i2, i3)
       integer, intent(in) :: iv
       integer :: i1
@@ -295,6 +321,9 @@ module zorbel
     subroutine getang(nang)
       integer :: nang
     end subroutine getang
+    subroutine getcen(ncen)
+      integer :: ncen
+    end subroutine getcen
     subroutine getclp(nx, ny, nw, nh)
       integer :: nx
       integer :: ny
@@ -390,6 +419,10 @@ module zorbel
       integer :: n2
       integer :: n3
     end subroutine getsp2
+    subroutine getsym(nsym, nh)
+      integer :: nsym
+      integer :: nh
+    end subroutine getsym
     subroutine gettcl(nmaj, nmin)
       integer :: nmaj
       integer :: nmin
@@ -455,6 +488,10 @@ module zorbel
       real :: yor
       real :: ystp
     end subroutine graf
+    subroutine grid(ixgrid, iygrid)
+      integer, intent(in) :: ixgrid
+      integer, intent(in) :: iygrid
+    end subroutine grid
     subroutine gtk12b(ix, iy, c)
       integer, intent(in) :: ix
       integer, intent(in) :: iy
@@ -484,6 +521,12 @@ module zorbel
       real :: xg
       real :: xb
     end subroutine hsvrgb
+    subroutine hsymbl(nh)
+      integer, intent(in) :: nh
+    end subroutine hsymbl
+    subroutine htitle(nh)
+      integer, intent(in) :: nh
+    end subroutine htitle
     subroutine hworig(nx, ny)
       integer, intent(in) :: nx
       integer, intent(in) :: ny
@@ -521,6 +564,12 @@ module zorbel
       integer, intent(in) :: nw
       integer, intent(in) :: nh
     end subroutine imgsiz
+    subroutine inccrv(n)
+      integer, intent(in) :: n
+    end subroutine inccrv
+    subroutine incmrk(n)
+      integer, intent(in) :: n
+    end subroutine incmrk
     function indrgb(xr, xg, xb)
       integer :: indrgb
       real, intent(in) :: xr
@@ -640,6 +689,8 @@ module zorbel
       integer(2), dimension(*), intent(in) :: packed
       integer, intent(in) :: n
     end subroutine lcsets
+    subroutine lfttit()
+    end subroutine lfttit
     subroutine lgital()
     end subroutine lgital
     subroutine lgroma()
@@ -686,6 +737,9 @@ module zorbel
     subroutine lsechk(c)
       character(len=*), intent(in) :: c
     end subroutine lsechk
+    subroutine marker(nsym)
+      integer, intent(in) :: nsym
+    end subroutine marker
     subroutine messag(c, nx, ny)
       character(len=*), intent(in) :: c
       integer, intent(in) :: nx
@@ -807,6 +861,12 @@ module zorbel
     subroutine pagfll(ncol)
       integer, intent(in) :: ncol
     end subroutine pagfll
+    subroutine paghdr(cstr1, cstr2, iopt, idir)
+      character(len=*), intent(in) :: cstr1
+      character(len=*), intent(in) :: cstr2
+      integer, intent(in) :: iopt
+      integer, intent(in) :: idir
+    end subroutine paghdr
     subroutine pagmod(c)
       character(len=*), intent(in) :: c
     end subroutine pagmod
@@ -845,6 +905,9 @@ module zorbel
       integer, intent(in) :: nh
       integer, intent(in) :: ncol
     end subroutine pointx
+    subroutine polcrv(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine polcrv
     subroutine qpsbuf(cbuf, n)
       character(len=*), intent(in) :: cbuf
       integer, intent(in) :: n
@@ -1229,6 +1292,18 @@ module zorbel
       integer :: lun
       integer :: ierr
     end subroutine sopnfl
+    subroutine spline(xray, yray, n, xout, yout, nout)
+      real, dimension(*), intent(in) :: xray
+      real, dimension(*), intent(in) :: yray
+      integer, intent(in) :: n
+      real, dimension(*) :: xout
+      real, dimension(*) :: yout
+      integer :: nout
+    end subroutine spline
+    subroutine splmod(ngrad, npts)
+      integer, intent(in) :: ngrad
+      integer, intent(in) :: npts
+    end subroutine splmod
     subroutine strsft(c)
       character(len=*), intent(inout) :: c
     end subroutine strsft
@@ -1282,6 +1357,18 @@ module zorbel
     end subroutine tifmod
     subroutine timopt()
     end subroutine timopt
+    subroutine titjus(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine titjus
+    subroutine title()
+    end subroutine title
+    subroutine titlin(cstr, n)
+      character(len=*), intent(in) :: cstr
+      integer, intent(in) :: n
+    end subroutine titlin
+    subroutine titpos(copt)
+      character(len=*), intent(in) :: copt
+    end subroutine titpos
     subroutine trfro2(xray, yray, n, xsin, xcos)
       real, dimension(*) :: xray
       real, dimension(*) :: yray
@@ -1318,6 +1405,9 @@ module zorbel
       integer, intent(in) :: ny2
       integer, intent(in) :: ivec
     end subroutine vector
+    subroutine vkytit(nv)
+      integer, intent(in) :: nv
+    end subroutine vkytit
     subroutine vltfil(cfil, cmod)
       character(len=*), intent(in) :: cfil
       character(len=*), intent(in) :: cmod
@@ -1350,6 +1440,8 @@ module zorbel
       integer, intent(in) :: nw
       integer, intent(in) :: nh
     end subroutine winsiz
+    subroutine xaxgit()
+    end subroutine xaxgit
     subroutine xaxis(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
       real, intent(in) :: xa
       real, intent(in) :: xe
@@ -1372,6 +1464,8 @@ module zorbel
       integer, intent(in) :: nx
       integer, intent(in) :: ny
     end subroutine xaxlg
+    subroutine xcross()
+    end subroutine xcross
     subroutine xdraw(x, y)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -1407,6 +1501,8 @@ module zorbel
       real :: xposn
       real, intent(in) :: x
     end function xposn
+    subroutine yaxgit()
+    end subroutine yaxgit
     subroutine yaxis(xa, xe, xor0, xstp, nlen, cstr, it, nx, ny)
       real, intent(in) :: xa
       real, intent(in) :: xe
@@ -1429,6 +1525,8 @@ module zorbel
       integer, intent(in) :: nx
       integer, intent(in) :: ny
     end subroutine yaxlg
+    subroutine ycross()
+    end subroutine ycross
     function yinvrs(n)
       real :: yinvrs
       integer, intent(in) :: n

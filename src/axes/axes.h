@@ -129,4 +129,29 @@ void getdig(int& n1, int& n2, int& n3);
 void gettcl(int& nmaj, int& nmin);
 void gethnm(int& nh);
 
+// Titles, grids, lines and axes through the origin, frames and the page header.
+void title();
+void titlin(std::string_view cstr, int n);
+void titjus(std::string_view copt);
+void titpos(std::string_view copt);
+void htitle(int nh);
+void vkytit(int nv);
+void lfttit();
+void getcen(int& ncen);
+void grid(int ixgrid, int iygrid);
+void daxgit(int n);   // 1 the line y = 0, 2 the line x = 0, 3 both
+void dcross(int n);   // 1 the x axis at y = 0, 2 the y axis at x = 0, 3 both
+void frame(int n);
+void frmclr(int iclr);
+void box2d();
+void paghdr(std::string_view cstr1, std::string_view cstr2, int iopt, int idir);
+// The page header's line (trailing blanks cut) and its start in corner iopt, direction
+// idir, for a line w long at the height hh.
+std::string page_header_line(std::string_view cstr1, std::string_view cstr2);
+void page_header_start(int iopt, int idir, int w, int hh, int& nx, int& ny);
+// Room of the title lines at the top (titpos ABOV) or bottom (BELO), for centring.
+int title_room(bool top);
+// The polar grid; the polar axis system supplies it (until then a weak stand-in draws nothing).
+void grdpol(int igrid, int jgrid);
+
 }  // namespace zb

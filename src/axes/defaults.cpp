@@ -23,6 +23,11 @@ void user_labels() {
   for (auto& s : zg.caxlab) s = "";
 }
 
+void title_lines() {
+  for (auto& s : zg.ctitle) s = "";
+  zg.ctitul = "0000";
+}
+
 }  // namespace
 
 void resall_axes() {
@@ -63,6 +68,9 @@ void resall_axes() {
   zg.irvynm = zg.ilogtc = zg.irgtlb = zg.itmopt = 0;
   zg.frame = 1;
   zg.ifrmcl = -1;
+  title_lines();
+  zg.ititjs = zg.ititps = 0;
+  zg.nhtitl = zg.nvkytt = 0;
 }
 
 void reset_axes(std::string_view key) {
@@ -106,6 +114,10 @@ void reset_axes(std::string_view key) {
   if (key == "LOGT") zg.ilogtc = 0;
   if (key == "AXCL") zg.iaxclr.fill(-1);
   if (key == "FRAM") zg.frame = 1;
+  if (key == "TITL") title_lines();
+  if (key == "LFTT") zg.ititjs = 0;
+  if (key == "HTIT") zg.nhtitl = 0;
+  if (key == "VKYT") zg.nvkytt = 0;
 }
 
 }  // namespace zb

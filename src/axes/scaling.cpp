@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "axes/axes.h"
+#include "charts/charts.h"
 #include "draw/colour.h"
 #include "draw/device.h"
 #include "draw/line.h"
@@ -193,12 +194,14 @@ void sgrafp(int iside, int iflag) {
 
 void newori() {
   const int ml = side_room(4, 2, zg.ya, zg.ye, zg.yorg, zg.ystp, zg.ilogy);
-  const int mb = side_room(1, 1, zg.xa, zg.xe, zg.xorg, zg.xstp, zg.ilogx);
+  int mb = side_room(1, 1, zg.xa, zg.xe, zg.xorg, zg.xstp, zg.ilogx);
   int mr = 0, mt = 0;
   if (zg.iaxtyp == 0 && zg.iax2gf == 0) {
     mr = side_room(2, 2, zg.ya, zg.ye, zg.yorg, zg.ystp, zg.ilogy);
     mt = side_room(3, 1, zg.xa, zg.xe, zg.xorg, zg.xstp, zg.ilogx);
   }
+  mt += title_room(true);
+  mb += title_room(false);
   zg.nxorg = (zg.nxpag - zg.nxl - ml - mr) / 2 + ml - zg.nxa;
   zg.nyorg = (zg.nypag + zg.nyl + mb + mt) / 2 - mb - zg.nya;
 }
@@ -276,6 +279,7 @@ void endgrf() {
   if (jqqlev(0, 3, "ENDGRF")) return;
   if (zg.ilevel == 0) return;
   zg.ilevel = 1;
+  end_curves();
   release_axis_clip();
   sendbf();
 }

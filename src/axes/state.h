@@ -78,6 +78,14 @@ struct AxesState {
   int frame = 1;                              // thickness; 0 none, negative inward
   int ifrmcl = -1;                            // colour of frames, -1 current
 
+  // Titles above or below the axis system.
+  std::array<FStr<132>, 4> ctitle{};          // lines 1 to 4, from top to bottom
+  FStr<4> ctitul = FStr<4>("0000");           // "1" at place i: line i underlined
+  int ititjs = 0;                             // 0 CENT, 1 LEFT, 2 RIGH
+  int ititps = 0;                             // 0 ABOV, 1 BELO
+  int nhtitl = 0;                             // title height, 0 the current height
+  int nvkytt = 0;                             // shift of the titles toward the axis system
+
   bool operator==(const AxesState&) const = default;
 };
 

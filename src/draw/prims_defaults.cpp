@@ -7,7 +7,6 @@ namespace zb {
 void resall_prims() {
   zg.xcirsp = 10.0f / zg.unitfac;
   zg.xsymang = 0.0f;
-  zg.hsym = jqquni(36);
   zg.nsymmx = 23;
 }
 

@@ -1,5 +1,6 @@
 // Record fields of the geometric primitives: chord length of curved outlines, symbol
-// rotation and size, and the user symbol (its points live in prims_symbols.cpp).
+// rotation, and the user symbol (its points live in prims_symbols.cpp). The symbol size
+// hsym belongs to the curves (charts/state.h).
 #pragma once
 #include "util/fstr.h"
 
@@ -12,9 +13,6 @@ struct PrimsState {
   int imysym = 0;                  // symbol number the user symbol takes
   int imysfl = 0;                  // 1 if the user symbol is filled
   int nsymmx = 23;                 // highest built-in symbol number
-  // Symbol size in plot units. hsymbl (curves) sets it; symbols, wind barbs and every
-  // routine that places markers read it.
-  int hsym = 36;
 
   bool operator==(const PrimsState&) const = default;
 };
