@@ -81,6 +81,17 @@ module zorbel
     end subroutine box2d
     subroutine center()
     end subroutine center
+    subroutine cgmbgd(xr, xg, xb)
+      real, intent(in) :: xr
+      real, intent(in) :: xg
+      real, intent(in) :: xb
+    end subroutine cgmbgd
+    subroutine cgmpic(c)
+      character(len=*), intent(in) :: c
+    end subroutine cgmpic
+    subroutine cgmver(nver)
+      integer, intent(in) :: nver
+    end subroutine cgmver
     subroutine chaang(angle)
       real, intent(in) :: angle
     end subroutine chaang
@@ -205,6 +216,11 @@ module zorbel
     end subroutine dot
     subroutine dotl()
     end subroutine dotl
+    subroutine drwcgm(x, y, icode)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      integer, intent(in) :: icode
+    end subroutine drwcgm
     subroutine drwpsc(x, y, icode)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -311,6 +327,11 @@ module zorbel
       integer :: i2
       integer :: i3
     end subroutine gbyt03
+    subroutine gbyte2(ilun, iword, ifirst)
+      integer, intent(in) :: ilun
+      integer(2) :: iword
+      integer :: ifirst
+    end subroutine gbyte2
     subroutine gcspec(idx, iflag)
       integer :: idx
       integer :: iflag
@@ -576,6 +597,9 @@ module zorbel
       real, intent(in) :: xg
       real, intent(in) :: xb
     end function indrgb
+    subroutine inicgm(imode)
+      integer, intent(in) :: imode
+    end subroutine inicgm
     subroutine inipsc(lun)
       integer, intent(in) :: lun
     end subroutine inipsc
@@ -912,6 +936,9 @@ module zorbel
       character(len=*), intent(in) :: cbuf
       integer, intent(in) :: n
     end subroutine qpsbuf
+    subroutine qqcgm1(c)
+      character(len=*), intent(in) :: c
+    end subroutine qqcgm1
     subroutine qqdraw(x, y)
       real, intent(in) :: x
       real, intent(in) :: y
@@ -989,6 +1016,39 @@ module zorbel
     end subroutine qqserr
     subroutine qqstrk()
     end subroutine qqstrk
+    subroutine qqsvg1(imode)
+      integer, intent(in) :: imode
+    end subroutine qqsvg1
+    subroutine qqsvg2(x, y, icode)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      integer, intent(in) :: icode
+    end subroutine qqsvg2
+    subroutine qqsvg3(r, g, b)
+      integer, intent(in) :: r
+      integer, intent(in) :: g
+      integer, intent(in) :: b
+    end subroutine qqsvg3
+    subroutine qqsvg4(x, y, w, h, r, g, b)
+      real, intent(in) :: x
+      real, intent(in) :: y
+      real, intent(in) :: w
+      real, intent(in) :: h
+      integer, intent(in) :: r
+      integer, intent(in) :: g
+      integer, intent(in) :: b
+    end subroutine qqsvg4
+    subroutine qqsvg5(ic, x, y)
+      integer, intent(in) :: ic
+      real, intent(in) :: x
+      real, intent(in) :: y
+    end subroutine qqsvg5
+    subroutine qqsvg6(r, g, b, chex)
+      integer, intent(in) :: r
+      integer, intent(in) :: g
+      integer, intent(in) :: b
+      character(len=*), intent(inout) :: chex
+    end subroutine qqsvg6
     subroutine qqvclr(iclr)
       integer, intent(in) :: iclr
     end subroutine qqvclr

@@ -272,8 +272,18 @@ void xjdraw(float x, float y, int icode) {
 void xjpoly(const float* xray, const float* yray, int n) {
   if (n < 3 || xray == nullptr || yray == nullptr) return;
   const int d = zg.idev;
-  if (d != 221) return;   // the screen driver takes polygons when it is present
   const float s = zg.devscl;
+  if (d == 801) {
+    svg_polygon(0.0f, 0.0f, 1);
+    for (int i = 0; i < n; ++i) {
+      const float x = xray[i], y = yray[i];
+      if (zg.ipgmod == 1) svg_polygon(y * s, (float(zg.nxpag) - x) * s, 2);
+      else svg_polygon(x * s, y * s, 2);
+    }
+    svg_polygon(0.0f, 0.0f, 9);
+    return;
+  }
+  if (d != 221) return;   // the screen driver takes polygons when it is present
   qqwmf6(n, 0, 1);
   for (int i = 0; i < n; ++i) {
     const float x = xray[i], y = yray[i];

@@ -4,8 +4,6 @@
 
 namespace zb {
 
-void drwcgm(float, float, int) {}
-void inicgm(int) {}
 void qqwmf1() {}
 void qqwmf2() {}
 void qqwmf3(int, int, int) {}
@@ -17,9 +15,5 @@ void qqpdf2(float, float, int) {}
 void qqpdf3(int, int, int, int) {}
 void qqpdf4(float, float, float, float) {}
 int pdf_end() { return 1; }
-void zori_svg() {}
-void qqsvg2(float, float, int) {}
-void qqsvg3(int, int, int) {}
-void qqsvg4(float, float, float, float, int, int, int) {}
 
 }  // namespace zb

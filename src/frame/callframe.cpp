@@ -35,7 +35,7 @@ void first_call_init() {
   zg.iwinap = 0;
   zg.ixidkd = 0;
   zg.icgmbg = zg.icgmpc = 0;
-  zg.icgmvr = 1;
+  zg.icgmver = 1;
   zg.imgrgb = zg.iwmfmd = zg.ipngtr = zg.igiftr = 0;
   zg.ipdfmd = 1;
   zg.ntifres = 100;
