@@ -4,6 +4,7 @@ set -euo pipefail
 pkgs=(
   g++ cmake ninja-build gfortran python3 zlib1g-dev libgtest-dev
   libfreetype-dev
+  libxml2-utils librsvg2-bin libreoffice-impress
   ghostscript
   pngcheck giflib-tools libtiff-tools netpbm
   hershey-fonts-data fonts-dejavu-core fonts-liberation fonts-freefont-ttf

@@ -39,6 +39,15 @@ for f in *; do
       read -r magic _ _ w h _ rowbytes _ < <(head -c 80 "$f"; echo)
       [ "$magic" = '!Bitmap' ] || { echo "$f has no Bitmap head"; exit 1; }
       [ "$(stat -c %s "$f")" -eq $((80 + rowbytes * h)) ] || { echo "$f: size is not 80 + $rowbytes x $h"; exit 1; } ;;
+    *.svg)
+      xmllint --noout "$f" > xmllint.log 2>&1 || { cat xmllint.log; echo "xmllint rejects $f"; exit 1; }
+      rsvg-convert -o "${f}.png" "$f" > rsvg.log 2>&1 || { cat rsvg.log; echo "rsvg-convert cannot render $f"; exit 1; }
+      [ -s rsvg.log ] && { cat rsvg.log; echo "rsvg-convert warns about $f"; exit 1; } ;;
+    *.cgm)
+      # LibreOffice reads binary CGM; a profile of its own keeps parallel runs apart.
+      soffice -env:UserInstallation="file://$PWD/lo-profile" --headless --convert-to pdf --outdir cgm-pdf "$f" > soffice.log 2>&1 || true
+      [ -s "cgm-pdf/${f%.cgm}.pdf" ] || { cat soffice.log; echo "LibreOffice cannot read $f"; exit 1; }
+      gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=png16m -r40 -o "${f}-%d.png" "cgm-pdf/${f%.cgm}.pdf" > /dev/null 2>&1 || { echo "ghostscript cannot render the CGM of $f"; exit 1; } ;;
     *.met|*.err|*.txt|*.png) ;;
     *) echo "no reader for $f"; exit 1 ;;
   esac

@@ -273,6 +273,11 @@ TEST_F(Cgm, WordsReadBackAndTheEndStops) {
 }
 
 TEST_F(Cgm, BadInputStaysInTheFile) {
+  // Without a session the bytes go nowhere.
+  inicgm(1);
+  drwcgm(5, 5, 2);
+  qqcgm1(std::string(40000, 'q'));
+  drwcgm(0, 0, 999);
   // Points far beyond the 16 bits, not-a-number and wrong codes: the file stays well formed.
   const Bytes file = session([] {
     drwcgm(1.0e9f, -1.0e9f, 3);

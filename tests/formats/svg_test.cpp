@@ -1,5 +1,6 @@
 // The SVG driver: the document to the character for a small drawing, the buffer of 50
 // points and its lines of five, groups, text, backgrounds and the turned page.
+#include <limits>
 #include <regex>
 
 #include "draw/colour.h"
@@ -246,6 +247,41 @@ TEST_F(Svg, DefaultPictureAndFileName) {
   EXPECT_EQ(lines[7], R"(<svg width="853" height="603")");
   // devscl = min(852 / 2969, 602 / 2099): the short side fills the picture.
   EXPECT_EQ(lines[kHeadLines + 1], R"(<line x1="0.00" y1="0.00" x2="851.52" y2="602.00"/>)");
+}
+
+TEST_F(Svg, BadInputKeepsTheDocumentWellFormed) {
+  // Without a session nothing is open: the calls go nowhere.
+  qqsvg2(1, 2, 2);
+  qqsvg1(2);
+  qqsvg5('a', 0, 0);
+  svg_polygon(1, 1, 2);
+  svg_polygon(0, 0, 9);
+  qqsvg2(0, 0, 999);
+  const auto lines = session([] {
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float inf = std::numeric_limits<float>::infinity();
+    xjdraw(nan, 5, 3);
+    xjdraw(1e30f, -1e30f, 2);
+    qqsvg2(inf, nan, 2);
+    qqsvg2(0, 0, 12345);
+    for (int m : {-3, 2, 9, 1, 2, 0, 0}) qqsvg1(m);
+    for (int c : {-7, 0, 9, 127, 187, 1000}) qqsvg5(c, 10, 10);
+    qqsvg5('x', nan, inf);
+    qqsvg4(nan, 0, -5, 1e30f, 999, -999, 3);
+    qqsvg3(-1, 256, 1 << 30);
+    zg.nhchar = 2000000000;
+    qqsvg1(0);
+    qqsvg5('x', 1, 1);
+    const float px[] = {nan, 1, 2}, py[] = {0, inf, 2};
+    xjpoly(px, py, 3);
+    xjpoly(px, py, -4);
+    xjpoly(nullptr, py, 3);
+    for (int i = 0; i < 200; ++i) qqsvg2(float(i), float(i), i % 3 == 0 ? 3 : 2);
+  });
+  ASSERT_GT(lines.size(), kHeadLines);
+  EXPECT_EQ(lines[lines.size() - 2], "</svg>");
+  std::string log;
+  EXPECT_EQ(zbt::run("xmllint --noout " + zg.cplotfl.str(), &log), 0) << log;
 }
 
 }  // namespace
