@@ -901,6 +901,19 @@ module zorbel
       integer, intent(in) :: i
       integer, intent(in) :: ipat
     end subroutine patcyc
+    subroutine pdfbuf(cbuf, nmax, nlen)
+      character(len=*), intent(inout) :: cbuf
+      integer, intent(in) :: nmax
+      integer :: nlen
+    end subroutine pdfbuf
+    subroutine pdfmod(copt, ckey)
+      character(len=*), intent(in) :: copt
+      character(len=*), intent(in) :: ckey
+    end subroutine pdfmod
+    subroutine pdfmrk(cstr, copt)
+      character(len=*), intent(in) :: cstr
+      character(len=*), intent(in) :: copt
+    end subroutine pdfmrk
     subroutine penwid(xw)
       real, intent(in) :: xw
     end subroutine penwid
@@ -992,6 +1005,21 @@ module zorbel
       integer, intent(in) :: mode
       integer :: ierr
     end subroutine qqopen
+    subroutine qqpdf8(p, n, x, y, w, h, xp, yp, wp, hp, icomp, irot, ierr)
+      integer(1), dimension(*), intent(in) :: p
+      integer, intent(in) :: n
+      real, intent(in) :: x
+      real, intent(in) :: y
+      real, intent(in) :: w
+      real, intent(in) :: h
+      real, intent(in) :: xp
+      real, intent(in) :: yp
+      real, intent(in) :: wp
+      real, intent(in) :: hp
+      integer, intent(in) :: icomp
+      integer, intent(in) :: irot
+      integer :: ierr
+    end subroutine qqpdf8
     subroutine qqpos2(xu, yu, xp, yp)
       real, intent(in) :: xu
       real, intent(in) :: yu

@@ -241,6 +241,9 @@ void paghdr_(const char* cstr1, const char* cstr2, const int* iopt, const int* i
 void pagmod_(const char* c, int lc);
 void pagorg_(const char* c, int lc);
 void patcyc_(const int* i, const int* ipat);
+void pdfbuf_(char* cbuf, const int* nmax, int* nlen, int lc);
+void pdfmod_(const char* copt, const char* ckey, int l1, int l2);
+void pdfmrk_(const char* cstr, const char* copt, int l1, int l2);
 void penwid_(const float* xw);
 void pie_(const int* nx, const int* ny, const int* nr, const float* alpha, const float* beta);
 void pngmod_(const char* copt, const char* ckey, int lc1, int lc2);
@@ -260,6 +263,7 @@ void qqgrgb_(const int* iclr, float* xr, float* xg, float* xb);
 void qqmess_(const char* c, const int* nx, const int* ny, int lc);
 void qqmove_(const float* x, const float* y);
 void qqopen_(const int* lun, const char* cfil, const int* mode, int* ierr, int lc);
+void qqpdf8_(const unsigned char p[], const int* n, const float* x, const float* y, const float* w, const float* h, const float* xp, const float* yp, const float* wp, const float* hp, const int* icomp, const int* irot, int* ierr);
 void qqpos2_(const float* xu, const float* yu, float* xp, float* yp);
 void qqrel2_(const float* xu, const float* yu, float* xp, float* yp);
 void qqsbuf_(const char* cbuf, const int* n, int lc);

@@ -5,7 +5,7 @@ pkgs=(
   g++ cmake ninja-build gfortran python3 zlib1g-dev libgtest-dev
   libfreetype-dev
   libxml2-utils librsvg2-bin libreoffice-impress
-  ghostscript
+  ghostscript qpdf poppler-utils
   pngcheck giflib-tools libtiff-tools netpbm
   hershey-fonts-data fonts-dejavu-core fonts-liberation fonts-freefont-ttf
   fonts-liberation2

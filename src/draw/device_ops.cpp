@@ -362,6 +362,17 @@ void device_newpage() {
     inicgm(2);
   } else if (d >= 301 && d <= 400) {
     qqsbuf("PAGE;");
+  } else if (d == 511) {
+    // The new page starts from PDF's default state: background, join, cap and width anew.
+    xjdraw(0.0f, 0.0f, 4);
+    if (zg.irevscr != 2)
+      dbox(-float(zg.nxorg), -float(zg.nyorg), float(zg.nxpag - zg.nxorg), float(zg.nypag - zg.nyorg), 0);
+    const float s = zg.devscl;
+    xjdraw(float(zg.ilnjoin) / s, float(zg.ilnjoin) / s, 7);
+    xjdraw(float(zg.ilncap) / s, float(zg.ilncap) / s, 8);
+    const float w = float(std::max(int(2.0f * float(std::abs(zg.ilinw)) * zg.unitfac), 5));
+    const float pts = 0.5f * w * 72.0f / (254.0f * s);
+    xjdraw(pts, pts, 6);
   } else if (is_ps(d) && d != 503) {
     xjdraw(0.0f, 0.0f, 999);
     qpsbuf("copypage ");

@@ -10,10 +10,5 @@ void qqwmf3(int, int, int) {}
 void qqwmf4(int, int, int) {}
 void qqwmf5(int, int, int, int, int, int, int) {}
 void qqwmf6(int, int, int) {}
-void zori_pdf() {}
-void qqpdf2(float, float, int) {}
-void qqpdf3(int, int, int, int) {}
-void qqpdf4(float, float, float, float) {}
-int pdf_end() { return 1; }
 
 }  // namespace zb

@@ -14,6 +14,12 @@ for f in *; do
       gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=nullpage "$f" > gs.log 2>&1 || { cat gs.log; echo "ghostscript rejects $f"; exit 1; }
       grep -q 'Error' gs.log && { cat gs.log; echo "ghostscript reports an error in $f"; exit 1; }
       gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=png16m -r40 -o "${f}.png" "$f" > /dev/null ;;
+    *.pdf)
+      qpdf --check "$f" > qpdf.log 2>&1 || { cat qpdf.log; echo "qpdf rejects $f"; exit 1; }
+      grep -q 'No syntax or stream encoding errors' qpdf.log || { cat qpdf.log; echo "qpdf warns about $f"; exit 1; }
+      pdftoppm -r 40 -png "$f" "${f}" > pdftoppm.log 2>&1 || { cat pdftoppm.log; echo "pdftoppm cannot render $f"; exit 1; }
+      [ -s pdftoppm.log ] && { cat pdftoppm.log; echo "pdftoppm reports errors in $f"; exit 1; }
+      ls "${f}"-*.png > /dev/null 2>&1 || { echo "pdftoppm rendered no page of $f"; exit 1; } ;;
     *.png)
       command -v pngcheck > /dev/null && command -v pngtopnm > /dev/null || { echo "no PNG reader (pngcheck, netpbm)"; exit 1; }
       pngcheck -q "$f" > png.log 2>&1 || { cat png.log; echo "pngcheck rejects $f"; exit 1; }
@@ -48,7 +54,7 @@ for f in *; do
       soffice -env:UserInstallation="file://$PWD/lo-profile" --headless --convert-to pdf --outdir cgm-pdf "$f" > soffice.log 2>&1 || true
       [ -s "cgm-pdf/${f%.cgm}.pdf" ] || { cat soffice.log; echo "LibreOffice cannot read $f"; exit 1; }
       gs -q -dSAFER -dNOPAUSE -dBATCH -sDEVICE=png16m -r40 -o "${f}-%d.png" "cgm-pdf/${f%.cgm}.pdf" > /dev/null 2>&1 || { echo "ghostscript cannot render the CGM of $f"; exit 1; } ;;
-    *.met|*.err|*.txt|*.png) ;;
+    *.met|*.err|*.txt|*.png|*.log) ;;
     *) echo "no reader for $f"; exit 1 ;;
   esac
   n=$((n + 1))
