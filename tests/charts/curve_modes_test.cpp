@@ -229,6 +229,40 @@ TEST_F(CurveModes, SplineOnALogarithmicAxisStepsInLog) {
   for (std::size_t j = 0; j < s.size(); ++j) EXPECT_NEAR(s[j].x, s.front().x + float(j) * d, 0.05f) << j;
 }
 
+TEST_F(CurveModes, PolarStemsAndBarsStartAtTheCentre) {
+  // The mapping of a polar system: radius x at 100 units per unit, angle y in radians,
+  // around (1000, 1300).
+  auto polar = [&](const char* mode) {
+    begin();
+    zg.iaxknd = 1;
+    zg.nxcros = 1000;
+    zg.nycros = 1300;
+    polcrv(mode);
+    barwth(-20.0f);   // wedges 20 degrees wide
+    const float r[] = {2, 3}, phi[] = {0.0f, 1.5707964f};
+    curve(r, phi, 2);
+    return finish();
+  };
+  EXPECT_EQ(polar("STEM"), (Steps{{1000, 1300, false}, {1200, 1300, true}, {1000, 1300, false}, {1000, 1000, true}}));
+  const Steps w = polar("BARS");
+  ASSERT_GE(w.size(), 8u);
+  EXPECT_EQ(w.front(), (zbt::Step{1000, 1300, false}));
+  const float a = 10.0f * 3.14159265f / 180.0f;
+  EXPECT_EQ(w[1], (zbt::Step{1000 + 200 * std::cos(a), 1300 + 200 * std::sin(a), true}));
+  // Each wedge: centre, an arc at its radius, centre.
+  int wedges = 0;
+  for (std::size_t i = 0; i < w.size(); ++i) {
+    const float d = std::hypot(w[i].x - 1000, w[i].y - 1300);
+    if (d < 0.05f) {
+      wedges += w[i].draw ? 1 : 0;   // back at the centre
+      continue;
+    }
+    EXPECT_TRUE(std::fabs(d - 200) < 0.05f || std::fabs(d - 300) < 0.05f) << i << " " << d;
+  }
+  EXPECT_EQ(wedges, 2);
+  EXPECT_EQ(w.back(), (zbt::Step{1000, 1300, true}));
+}
+
 class FilledBars : public zbt::PrimsFixture {};
 
 TEST_F(FilledBars, OneSolidFillPerPointAndThePatternReturns) {
