@@ -263,4 +263,23 @@ TEST_F(LabelTexts, LabelsUseTheControlCharactersAndNumberMode) {
   EXPECT_EQ(take_lines(), std::vector<std::string>{});
 }
 
+// rlmess and rlnumb place at user coordinates without the page-origin mapping; 999.0 within
+// 0.1 continues the text; justification applies as with messag.
+TEST_F(LabelTexts, StringsAndNumbersAtUserCoordinates) {
+  place();
+  graf(0, 10, 0, 2, 0, 8, 0, 2);
+  const int nx = nxposn(5.0f), ny = nyposn(4.0f);
+  rlmess("AB", 5.0f, 4.0f);
+  EXPECT_FLOAT_EQ(zg.xstr0, float(nx));
+  EXPECT_FLOAT_EQ(zg.ystr0, float(ny + 35));
+  rlnumb(12.5f, 1, 999.05f, 998.95f);
+  EXPECT_FLOAT_EQ(zg.xchr, float(nx + 6 * 35));
+  txtjus("RIGHT");
+  numfmt("LOG");
+  rlnumb(3.0f, -1, 5.0f, 4.0f);   // "10" and a raised "3": 70 + 28
+  EXPECT_FLOAT_EQ(zg.xstr0, float(nx - 98));
+  EXPECT_EQ(zg.imixexp, 0);
+  EXPECT_EQ(take_lines(), std::vector<std::string>{});
+}
+
 }  // namespace

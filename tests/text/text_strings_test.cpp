@@ -93,6 +93,13 @@ TEST_F(Strings, PenStartJustifiedAndTurned) {
   messag("CD", 999, 999);
   EXPECT_FLOAT_EQ(zg.xchr, 100.0f + 4 * 35.0f);
   EXPECT_FLOAT_EQ(zg.xstr0, 100.0f);
+  // dtext takes 999, 999 for a position, one unit to the right; angle and height come back.
+  dtext("A", 999, 999, 90, 21);
+  EXPECT_FLOAT_EQ(zg.xstr0, 1000.0f + 20.0f);
+  EXPECT_NEAR(zg.ystr0, 999.0f, 0.001f);
+  EXPECT_EQ(zg.nangle, 0);
+  EXPECT_EQ(zg.nhchar, 36);
+  EXPECT_EQ(zg.xsin, 0.0f);
   EXPECT_EQ(take_text(), "");
 }
 
