@@ -3,8 +3,10 @@
 // its stream ends; the whole file may go to memory instead of a file. One file at a time.
 #include <zlib.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <climits>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -113,6 +115,12 @@ std::string fixed(float v, int d) {
 
 std::string f2(float v) { return fixed(v, 2); }
 
+// trunc(v + 0.5), held within the integers.
+int round_half(float v) {
+  if (!std::isfinite(v)) return 0;
+  return int(std::clamp(v + 0.5f, -2.0e9f, 2.0e9f));
+}
+
 // Bytes to the file or the file buffer, counted in nbyt_pdf.
 void raw_out(const unsigned char* p, int n) {
   if (ibfop_pdf == 1) {
@@ -131,7 +139,7 @@ void raw_out(const unsigned char* p, int n) {
   } else if (fp_pdf != nullptr) {
     std::fwrite(p, 1, std::size_t(n), fp_pdf);
   }
-  nbyt_pdf += n;
+  nbyt_pdf = int(std::min<long>(long(nbyt_pdf) + n, INT_MAX));
 }
 
 void qqpdfadd(int ikind, int iphase);
@@ -367,6 +375,28 @@ void write_page() {
   put("endobj\n");
 }
 
+// A title goes into its string as it stands, unless a reader would end the string before
+// its end (an unbalanced parenthesis, a last backslash): then ( ) and \ are escaped.
+void put_title(const char* t) {
+  int depth = 0;
+  bool stands = true;
+  for (const char* c = t; stands && *c != '\0'; ++c) {
+    if (*c == '\\') stands = *++c != '\0';
+    else if (*c == '(') ++depth;
+    else if (*c == ')') stands = --depth >= 0;
+  }
+  if (stands && depth == 0) {
+    qqpdfbuf(t, -1);
+    return;
+  }
+  std::string s;
+  for (const char* c = t; *c != '\0'; ++c) {
+    if (*c == '(' || *c == ')' || *c == '\\') s += '\\';
+    s += *c;
+  }
+  put(s);
+}
+
 // The outline root and one item a mark; returns the root's object number.
 int qqpdfmrk() {
   const int root = nobj_pdf, m = nmrk_pdf;
@@ -391,7 +421,7 @@ int qqpdfmrk() {
     while (i + run + 1 <= m && level(i + run + 1) > lv) ++run;
     qqpdfobj(root + i, kOutline);
     put("<< /Title (");
-    qqpdfbuf(pmrk_pdf[i - 1].title, -1);
+    put_title(pmrk_pdf[i - 1].title);
     put(")\n");
     put("   /Parent " + itoa(parent) + " 0 R\n");
     if (prev > 0) put("   /Prev " + itoa(prev) + " 0 R\n");
@@ -684,8 +714,8 @@ void qqpdf2(float x, float y, int icode) {
       put("f*\n");
       break;
     case 6: put(fixed(x, 3) + " w\n"); break;
-    case 7: put(itoa(int(x + 0.5f)) + " j\n"); break;
-    case 8: put(itoa(int(x + 0.5f)) + " J\n"); break;
+    case 7: put(itoa(round_half(x)) + " j\n"); break;
+    case 8: put(itoa(round_half(x)) + " J\n"); break;
     case 9: put(fixed(x, 3) + " M\n"); break;
     case 10: {
       const float w = std::isfinite(x) ? x : 0.0f, h = std::isfinite(y) ? y : 0.0f;
@@ -831,8 +861,8 @@ void qqpdf8(const unsigned char* p, int n, float x, float y, float w, float h, f
   qqpdfobj(nobj_pdf, kForm);
   put("<< /Type /XObject /Subtype /Form\n");
   put("   /FormType 1\n");
-  put("   /BBox [" + itoa(int(x + 0.5f)) + " " + itoa(int(y + 0.5f)) + " " + itoa(int(x + w + 0.5f)) +
-      " " + itoa(int(y + h + 0.5f)) + "]\n");
+  put("   /BBox [" + itoa(round_half(x)) + " " + itoa(round_half(y)) + " " + itoa(round_half(x + w)) + " " +
+      itoa(round_half(y + h)) + "]\n");
   put("   /Matrix [1 0 0 1 0 0]\n");
   put("   /Resources << /ProcSet [/PDF] >>\n");
   if (icomp == 0) {

@@ -344,6 +344,26 @@ TEST_F(PdfDraw, BookmarksMakeTheOutlineTree) {
   EXPECT_NE(json.find("\"destpageposfrom1\": 3"), std::string::npos) << json;
 }
 
+// Titles stand as given; only one that would end its string early has ( ) and \ escaped.
+TEST_F(PdfDraw, BookmarkTitles) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"Results (2024)", "Results (2024)"},
+      {"a\\(b", "a\\(b"},
+      {"Part 1)", "Part 1\\)"},
+      {"(open", "\\(open"},
+      {"x) (y", "x\\) \\(y"},
+      {"C:\\", "C:\\\\"},
+  };
+  pages([&] {
+    for (const auto& c : cases) pdfmrk(c.first, "CHAP");
+  });
+  const std::string bytes = zbt::read_file(zg.cplotfl.str());
+  for (const auto& c : cases) EXPECT_NE(bytes.find(std::string("<< /Title (") + c.second + ")\n"), std::string::npos) << c.first;
+  std::string log;
+  EXPECT_EQ(zbt::run("qpdf --check " + zg.cplotfl.str(), &log), 0) << log;
+  EXPECT_NE(log.find("No syntax or stream encoding errors"), std::string::npos) << log;
+}
+
 TEST_F(PdfDraw, BookmarkRefusals) {
   metafl("PDF");
   zorini();
