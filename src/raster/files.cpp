@@ -186,6 +186,7 @@ void rbfpng(char* cbuf, int nmax, int& nlen) {
   const bool opened = zg.iimgop != 1;
   if (opened) {
     imgini();
+    zg.cproc = "RBFPNG";
     if (zg.iimgop != 1) return;
   }
   if (zg.iimgcl) qqpclp(zg.nxicl, zg.nyicl, zg.nwicl, zg.nhicl, 1);
