@@ -1,6 +1,5 @@
 // Line pipeline tests: sessions on the metafile, whose pen stream is read back into plot
-// coordinates (fields of 10 characters: x and y as page fractions, y upward, and the pen
-// code 2.0 or 3.0 behind a point when it changes; colour fields are 9.0 and above).
+// coordinates and cut into drawn segments.
 #pragma once
 #include <algorithm>
 #include <cmath>
@@ -8,38 +7,13 @@
 #include <vector>
 
 #include "support/harness.h"
+#include "support/metafile.h"
 
 namespace zbt {
-
-struct PenStep {
-  float x, y;
-  int code;
-};
 
 struct Seg {
   float x1, y1, x2, y2;
 };
-
-inline std::vector<PenStep> metafile_pen(const std::string& file) {
-  std::string all;
-  for (const auto& l : read_lines(file)) all += l;
-  std::vector<double> f;
-  for (std::size_t i = 0; i + 10 <= all.size(); i += 10) f.push_back(std::stod(all.substr(i, 10)));
-  const float mx = float(std::max(zb::zg.nxpag, zb::zg.nypag));
-  std::vector<PenStep> steps;
-  int code = 0;
-  for (std::size_t i = 0; i < f.size();) {
-    if (f[i] > 1.5) {   // colour or end record
-      ++i;
-      continue;
-    }
-    const float x = float(f[i] * mx), y = float(zb::zg.nypag) - float(f[i + 1] * mx);
-    i += 2;
-    if (i < f.size() && (f[i] == 2.0 || f[i] == 3.0)) code = int(f[i++]);
-    steps.push_back({x, y, code});
-  }
-  return steps;
-}
 
 // The drawn segments of a pen stream, in order.
 inline std::vector<Seg> drawn(const std::vector<PenStep>& steps) {
