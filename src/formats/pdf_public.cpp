@@ -53,7 +53,7 @@ void zori_pdf() {
   }
   int ierr = 0;
   const std::string path = zg.cplotfl.str();
-  qqpdf1(path.c_str(), int(pw + 1.0f), int(ph + 1.0f), zg.ipdfmd, irot, ierr);
+  qqpdf1(path.c_str(), int(pw + 1.0f), int(ph + 1.0f), zg.ipdfmod, irot, ierr);
   if (ierr == -1) {
     warnin(36);
     stop_without_output();
@@ -81,7 +81,7 @@ void pdfmod(std::string_view copt, std::string_view ckey) {
   const int key = jqqind("COMP+BUFF", 2, ckey);
   if (key == 0) return;
   const int bit = key == 1 ? 1 : 2;
-  zg.ipdfmd = on == 2 ? (zg.ipdfmd | bit) : (zg.ipdfmd & ~bit);
+  zg.ipdfmod = on == 2 ? (zg.ipdfmod | bit) : (zg.ipdfmod & ~bit);
 }
 
 void pdfmrk(std::string_view cstr, std::string_view copt) {
@@ -111,7 +111,7 @@ void pdfbuf(char* cbuf, int nmax, int& nlen) {
     custom_warning("Output format is not PDF");
     return;
   }
-  if ((zg.ipdfmd & 2) == 0) {
+  if ((zg.ipdfmod & 2) == 0) {
     custom_warning("Buffer output is not enabled for PDF");
     return;
   }

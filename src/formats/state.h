@@ -12,7 +12,10 @@ struct FormatsState {
   int ncgmpic = 1;                          // number of the current picture
 
   int iwmfmd = 0;                           // wmfmod
-  int ipdfmd = 1;                           // pdfmod
+
+  // PDF: pdfmod, kept over sessions. Bit 0 deflates the content, bit 1 keeps the file in
+  // memory for pdfbuf.
+  int ipdfmod = 1;
 
   // SVG: the open group, the stroke width and the current colour.
   int isvggr = 0;                           // 0 none, 1 stroke group, 2 text group

@@ -37,7 +37,7 @@ void first_call_init() {
   zg.icgmbg = zg.icgmpc = 0;
   zg.icgmver = 1;
   zg.imgrgb = zg.iwmfmd = zg.ipngtr = zg.igiftr = 0;
-  zg.ipdfmd = 1;
+  zg.ipdfmod = 1;
   zg.ntifres = 100;
   zg.itifun = 2;
 }

@@ -345,7 +345,7 @@ TEST_F(PdfFile, PdfmodKeysAndRefusals) {
   const Step steps[] = {{"OFF", "COMP", 0}, {"ON", "BUFF", 2}, {"on", "comp", 3}, {"OFF", "BUFFER", 1}};
   for (const auto& s : steps) {
     pdfmod(s.opt, s.key);
-    EXPECT_EQ(zg.ipdfmd, s.after) << s.opt << " " << s.key;
+    EXPECT_EQ(zg.ipdfmod, s.after) << s.opt << " " << s.key;
   }
   EXPECT_TRUE(take_lines().empty());
   const Zorglb before = zg;
