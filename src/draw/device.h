@@ -18,6 +18,7 @@ void xjpoly(const float* xray, const float* yray, int n);
 void dbox(float x1, float y1, float x2, float y2, int iclr);
 void qqsclr(int iclr);
 void sendbf();
+int grey_pattern_row(int ipat, int row);   // grey fill patterns 1..9 of terminals and printers
 
 // Output record.
 void qqsbuf(const char* cbuf, int n);

@@ -38,19 +38,24 @@ void map_pixels(float x, float y, int& ix, int& iy) {
   }
 }
 
-constexpr std::array<std::array<unsigned char, 8>, 9> kGreyPatterns = {{
-    {128, 0, 0, 0, 0, 0, 0, 0},
-    {128, 0, 0, 0, 8, 0, 0, 0},
-    {128, 0, 0, 32, 0, 0, 4, 0},
-    {128, 8, 0, 0, 64, 4, 0, 0},
-    {128, 16, 2, 0, 32, 0, 8, 1},
-    {128, 16, 2, 64, 8, 1, 32, 4},
-    {170, 0, 85, 0, 170, 0, 85, 0},
-    {170, 85, 170, 85, 170, 85, 170, 85},
-    {255, 255, 255, 255, 255, 255, 255, 255},
-}};
 
 }  // namespace
+
+// Row (0..7) of the 8 by 8 grey pattern ipat (1..9) of terminals and printers, as a byte.
+int grey_pattern_row(int ipat, int row) {
+  static constexpr std::array<std::array<unsigned char, 8>, 9> kGreyPatterns = {{
+      {128, 0, 0, 0, 0, 0, 0, 0},
+      {128, 0, 0, 0, 8, 0, 0, 0},
+      {128, 0, 0, 32, 0, 0, 4, 0},
+      {128, 8, 0, 0, 64, 4, 0, 0},
+      {128, 16, 2, 0, 32, 0, 8, 1},
+      {128, 16, 2, 64, 8, 1, 32, 4},
+      {170, 0, 85, 0, 170, 0, 85, 0},
+      {170, 85, 170, 85, 170, 85, 170, 85},
+      {255, 255, 255, 255, 255, 255, 255, 255},
+  }};
+  return kGreyPatterns[std::size_t(ipat - 1)][std::size_t(row & 7)];
+}
 
 // Pen moves of the outputs that write text records here: metafile, Kyocera, HPGL, Java.
 void simple_draw(float x, float y, int icode) {
@@ -142,7 +147,7 @@ void dbox(float x1, float y1, float x2, float y2, int iclr) {
     std::string rec = "MAP " + fmt_i(rnd(x1 * s), 4) + "," + fmt_i(rnd(y1 * s), 4) + "; FPAT ";
     for (int i = 0; i < 8; ++i) {
       if (i > 0) rec += ",";
-      rec += fmt_i(kGreyPatterns[std::size_t(pat - 1)][std::size_t(i)], 3);
+      rec += fmt_i(grey_pattern_row(pat, i), 3);
     }
     rec += "; BLK " + fmt_i(rnd((x2 - x1) * s), 4) + "," + fmt_i(rnd((y2 - y1) * s), 4) + ";";
     qqsbuf(rec);
@@ -156,7 +161,7 @@ void dbox(float x1, float y1, float x2, float y2, int iclr) {
     const int iy1 = rnd((ny - y2) * s), iy2 = rnd((ny - y1) * s);
     zg.ctek[0] = 28;
     for (int iy = iy1; iy <= iy2; ++iy) {
-      const unsigned row = kGreyPatterns[std::size_t(pat - 1)][std::size_t(iy & 7)];
+      const unsigned row = unsigned(grey_pattern_row(pat, iy));
       for (int ix = ix1; ix <= ix2; ++ix)
         if (row & (128u >> (ix & 7))) {
           if (d == 161) dtdr12(ix + 1, iy + 1, 3);

@@ -16,18 +16,15 @@ namespace zb {
 
 namespace {
 
-// Grey patterns of the printer, rows as bytes, for ipat 1 to 9.
-constexpr std::array<std::array<int, 8>, 9> kKyoPatterns = {{
-    {1, 0, 0, 0, 0, 0, 0, 0},
-    {1, 0, 0, 0, 16, 0, 0, 0},
-    {1, 0, 0, 4, 0, 0, 32, 0},
-    {1, 16, 0, 0, 2, 32, 0, 0},
-    {1, 8, 64, 0, 4, 0, 16, 128},
-    {1, 8, 64, 2, 16, 128, 4, 32},
-    {85, 0, 170, 0, 85, 0, 170, 0},
-    {85, 170, 85, 170, 85, 170, 85, 170},
-    {255, 255, 255, 255, 255, 255, 255, 255},
-}};
+// Grey patterns of the printer for the sector record: the device layer's patterns with the
+// bits of each row in the opposite order.
+int kyo_pattern_row(int ipat, int row) {
+  const unsigned v = unsigned(grey_pattern_row(ipat, row));
+  unsigned r = 0;
+  for (int bit = 0; bit < 8; ++bit)
+    if (v & (1u << bit)) r |= 128u >> bit;
+  return int(r);
+}
 
 int scaled(float v) { return prims_nint(v * zg.devscl); }
 
@@ -134,7 +131,7 @@ void kdarc(int nx, int ny, int nr2, int nr1, float beta, float alpha, int ipat) 
   std::string rec = "MAP " + fmt_i(x, 4) + "," + fmt_i(y, 4) + "; FPAT ";
   for (std::size_t i = 0; i < 8; ++i) {
     if (i > 0) rec += ",";
-    rec += fmt_i(kKyoPatterns[std::size_t(ipat - 1)][i], 3);
+    rec += fmt_i(kyo_pattern_row(ipat, int(i)), 3);
   }
   // The printer counts angles clockwise from the top.
   rec += "; ARC " + fmt_i(scaled(float(nr1)), 4) + "," + fmt_i(scaled(float(nr2)), 4) + "," +
